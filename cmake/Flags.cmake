@@ -1,0 +1,13 @@
+# What every target of ours is compiled with: link to KestrinFlags.
+add_library(KestrinFlags INTERFACE)
+target_compile_options(KestrinFlags INTERFACE
+	-Wall -Wextra -Wshadow -Wconversion -Wno-sign-conversion -Wno-unused-parameter
+	$<$<CXX_COMPILER_ID:GNU>:-Winvalid-pch>)
+
+if(KESTRIN_SANITIZE)
+	add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+	add_link_options(-fsanitize=address,undefined)
+endif()
+if(KESTRIN_FUZZ)
+	add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

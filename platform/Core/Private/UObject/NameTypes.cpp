@@ -1,0 +1,156 @@
+#include "UObject/NameTypes.h"
+
+#include "Containers/StringConv.h"
+
+#include <deque>
+#include <limits>
+#include <mutex>
+#include <shared_mutex>
+#include <unordered_map>
+
+namespace
+{
+struct FHashIgnoringCase
+{
+	SIZE_T operator()(std::u16string_view Text) const { return FString::HashIgnoringCase(Text); }
+};
+
+struct FEqualIgnoringCase
+{
+	bool operator()(std::u16string_view A, std::u16string_view B) const { return FString::EqualsIgnoringCase(A, B); }
+};
+
+/** All spellings ever given, never freed; index 0 is "None". */
+class FNameTable
+{
+public:
+	static FNameTable& Get()
+	{
+		static FNameTable Table;
+		return Table;
+	}
+
+	/** @return the entry for comparing and the entry for printing */
+	std::pair<uint32, uint32> Find(std::u16string_view Text)
+	{
+		{
+			const std::shared_lock Lock(Mutex);
+			const auto First = FirstSpellings.find(Text);
+			const auto Exact = Spellings.find(Text);
+			if (First != FirstSpellings.end() && Exact != Spellings.end())
+			{
+				return { First->second, Exact->second };
+			}
+		}
+		const std::unique_lock Lock(Mutex);
+		const auto Exact = Spellings.find(Text);
+		const uint32 Display = Exact == Spellings.end() ? Add(Text) : Exact->second;
+		return { FirstSpellings.try_emplace(Entries[Display], Display).first->second, Display };
+	}
+
+	const std::u16string& Text(uint32 Index)
+	{
+		const std::shared_lock Lock(Mutex);
+		return Entries[Index];
+	}
+
+private:
+	FNameTable()
+	{
+		Add(u"None");
+		FirstSpellings.emplace(Entries[0], 0);
+	}
+
+	uint32 Add(std::u16string_view Text)
+	{
+		const auto Index = static_cast<uint32>(Entries.size());
+		Entries.emplace_back(Text);
+		Spellings.emplace(Entries.back(), Index);
+		return Index;
+	}
+
+	std::shared_mutex Mutex;
+	std::deque<std::u16string> Entries;
+	std::unordered_map<std::u16string_view, uint32> Spellings;
+	std::unordered_map<std::u16string_view, uint32, FHashIgnoringCase, FEqualIgnoringCase> FirstSpellings;
+};
+
+constexpr SIZE_T MaxLength = 1023;
+
+/** Cuts a tail "_<number>" off; 0 when there is none, else the number plus one. */
+int32 TakeNumber(std::u16string_view& Text)
+{
+	SIZE_T Digits = Text.size();
+	while (Digits > 0 && FChar::IsDigit(Text[Digits - 1]))
+	{
+		--Digits;
+	}
+	const SIZE_T Count = Text.size() - Digits;
+	const bool bLeadingZero = Count > 1 && Text[Digits] == '0';
+	if (Count == 0 || Count > 10 || bLeadingZero || Digits < 2 || Text[Digits - 1] != '_')
+	{
+		return 0;
+	}
+	int64 Number = 0;
+	for (const TCHAR Digit : Text.substr(Digits))
+	{
+		Number = Number * 10 + (Digit - '0');
+	}
+	if (Number >= std::numeric_limits<int32>::max())
+	{
+		return 0;
+	}
+	Text = Text.substr(0, Digits - 1);
+	return static_cast<int32>(Number) + 1;
+}
+}
+
+FName::FName(const TCHAR* Text)
+{
+	Init(Text ? Text : u"");
+}
+
+FName::FName(const ANSICHAR* Utf8)
+{
+	Init(FUtf8::Decode(Utf8 ? Utf8 : "").View());
+}
+
+FName::FName(const FString& Text)
+{
+	Init(Text.View());
+}
+
+void FName::Init(std::u16string_view Text)
+{
+	Text = Text.substr(0, MaxLength);
+	if (!Text.empty())
+	{
+		Number = TakeNumber(Text);
+		std::tie(ComparisonIndex, DisplayIndex) = FNameTable::Get().Find(Text);
+	}
+}
+
+FString FName::GetPlainNameString() const
+{
+	return FString(std::u16string_view(FNameTable::Get().Text(DisplayIndex)));
+}
+
+FString FName::ToString() const
+{
+	FString Result = GetPlainNameString();
+	if (Number > 0)
+	{
+		Result.AppendChar('_').AppendInt(Number - 1);
+	}
+	return Result;
+}
+
+int32 FName::Compare(const FName& Other) const
+{
+	return ToString().Compare(Other.ToString(), ESearchCase::IgnoreCase);
+}
+
+FString LexToString(const FName& Name)
+{
+	return Name.ToString();
+}
