@@ -111,8 +111,8 @@ void IFileManager::FindFiles(TArray<FString>& FileNames, const TCHAR* Filename, 
 	Pattern.AddFitting(FileNames, Listing.GetDirectories(), FString());
 }
 
-void IFileManager::FindFilesRecursive(TArray<FString>& FileNames, const TCHAR* StartDirectory, const TCHAR* Filename, bool bFiles,
-	bool bDirectories, bool bClearFileNames)
+void IFileManager::FindFilesRecursive(
+	TArray<FString>& FileNames, const TCHAR* StartDirectory, const TCHAR* Filename, bool bFiles, bool bDirectories, bool bClearFileNames)
 {
 	if (bClearFileNames)
 	{
@@ -126,7 +126,8 @@ void IFileManager::FindFilesRecursive(TArray<FString>& FileNames, const TCHAR* S
 bool IPlatformFile::IterateDirectory(const TCHAR* Directory, FDirectoryVisitorFunc Visitor)
 {
 	const FDirectoryListing Listing(NativeDirectory(Directory), EListed::Both);
-	const auto Visit = [&](const std::vector<std::string_view>& Names, bool bIsDirectory) {
+	const auto Visit = [&](const std::vector<std::string_view>& Names, bool bIsDirectory)
+	{
 		return std::all_of(Names.begin(), Names.end(),
 			[&](std::string_view Name) { return Visitor(*(FString(Directory) / *FUtf8::Decode(Name)), bIsDirectory); });
 	};
@@ -136,7 +137,9 @@ bool IPlatformFile::IterateDirectory(const TCHAR* Directory, FDirectoryVisitorFu
 void IPlatformFile::FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension)
 {
 	FoundFiles.Empty();
-	IterateDirectory(Directory, [&](const TCHAR* Path, bool bIsDirectory) {
+	IterateDirectory(Directory,
+		[&](const TCHAR* Path, bool bIsDirectory)
+		{
 		if (!bIsDirectory && (!FileExtension || !*FileExtension || FString(Path).EndsWith(FileExtension)))
 		{
 			FoundFiles.Add(Path);

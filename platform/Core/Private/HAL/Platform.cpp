@@ -15,7 +15,8 @@ FString FPlatformMisc::GetEnvironmentVariable(const TCHAR* VariableName)
 const TCHAR* FPlatformProcess::BaseDir()
 {
 	// Taken once: a later change of the working directory moves nothing.
-	static const FString Directory = [] {
+	static const FString Directory = []
+	{
 		std::error_code Error;
 		return WithEndingSlash(FUtf8::Decode(std::filesystem::current_path(Error).string()));
 	}();

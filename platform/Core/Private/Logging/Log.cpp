@@ -6,8 +6,7 @@
 
 DEFINE_LOG_CATEGORY(LogTemp);
 
-FLogCategoryBase::FLogCategoryBase(
-	const TCHAR* Name, ELogVerbosity::Type DefaultVerbosity, ELogVerbosity::Type InCompileTimeVerbosity)
+FLogCategoryBase::FLogCategoryBase(const TCHAR* Name, ELogVerbosity::Type DefaultVerbosity, ELogVerbosity::Type InCompileTimeVerbosity)
 	: Verbosity(std::min(DefaultVerbosity, InCompileTimeVerbosity))
 	, CompileTimeVerbosity(InCompileTimeVerbosity)
 	, CategoryName(Name)

@@ -31,8 +31,8 @@ FLogDevice::~FLogDevice()
 void FLogDevice::Serialize(const TCHAR* Message, ELogVerbosity::Type Verbosity, const FName& Category)
 {
 	const FString Label = Verbosity == ELogVerbosity::Log ? FString() : FString::Printf(TEXT("%s: "), ToString(Verbosity));
-	const FString Line = FString::Printf(TEXT("[%s]%s: %s%s\n"), *FDateTime::UtcNow().ToString(TEXT("%Y.%m.%d-%H.%M.%S:%s")),
-		*Category.ToString(), *Label, Message);
+	const FString Line = FString::Printf(
+		TEXT("[%s]%s: %s%s\n"), *FDateTime::UtcNow().ToString(TEXT("%Y.%m.%d-%H.%M.%S:%s")), *Category.ToString(), *Label, Message);
 	const std::string Bytes = FUtf8::Encode(Line);
 	// One call for a line keeps the lines of several processes apart. There is nobody to tell when it fails.
 	[[maybe_unused]] const ssize_t Written = IsOpen() ? ::write(Descriptor, Bytes.data(), Bytes.size()) : 0;

@@ -64,8 +64,8 @@ FDateTime::FDateTime(int32 Year, int32 Month, int32 Day, int32 Hour, int32 Minut
 {
 	const year_month_day Date = year(Year) / static_cast<int>(Month) / static_cast<int>(Day);
 	check(Date.ok());
-	Ticks = (sys_days(Date) - FirstDay).count() * ETimespan::TicksPerDay + Hour * ETimespan::TicksPerHour
-		+ Minute * ETimespan::TicksPerMinute + Second * ETimespan::TicksPerSecond + Millisecond * ETimespan::TicksPerMillisecond;
+	Ticks = (sys_days(Date) - FirstDay).count() * ETimespan::TicksPerDay + Hour * ETimespan::TicksPerHour +
+		Minute * ETimespan::TicksPerMinute + Second * ETimespan::TicksPerSecond + Millisecond * ETimespan::TicksPerMillisecond;
 }
 
 FDateTime FDateTime::UtcNow()

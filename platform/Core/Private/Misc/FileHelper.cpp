@@ -43,7 +43,9 @@ bool SaveBytes(const uint8* Bytes, SIZE_T Count, const TCHAR* Filename, uint32 W
 
 bool FFileHelper::LoadFileToArray(TArray<uint8>& Result, const TCHAR* Filename)
 {
-	return LoadBytes(Filename, [&Result](int32 Size) {
+	return LoadBytes(Filename,
+		[&Result](int32 Size)
+		{
 		Result.Reset();
 		Result.SetNumUninitialized(Size);
 		return Result.GetData();
@@ -53,7 +55,9 @@ bool FFileHelper::LoadFileToArray(TArray<uint8>& Result, const TCHAR* Filename)
 bool FFileHelper::LoadFileToString(FString& Result, const TCHAR* Filename)
 {
 	std::string Bytes;
-	const bool bLoaded = LoadBytes(Filename, [&Bytes](int32 Size) {
+	const bool bLoaded = LoadBytes(Filename,
+		[&Bytes](int32 Size)
+		{
 		Bytes.resize(static_cast<SIZE_T>(Size));
 		return reinterpret_cast<uint8*>(Bytes.data());
 	});
@@ -89,8 +93,8 @@ bool FFileHelper::SaveStringToFile(
 	return SaveBytes(reinterpret_cast<const uint8*>(Bytes.data()), Bytes.size(), Filename, WriteFlags);
 }
 
-bool FFileHelper::SaveStringArrayToFile(const TArray<FString>& Lines, const TCHAR* Filename, EEncodingOptions EncodingOptions,
-	IFileManager* FileManager, uint32 WriteFlags)
+bool FFileHelper::SaveStringArrayToFile(
+	const TArray<FString>& Lines, const TCHAR* Filename, EEncodingOptions EncodingOptions, IFileManager* FileManager, uint32 WriteFlags)
 {
 	SIZE_T Length = 0;
 	for (const FString& Line : Lines)

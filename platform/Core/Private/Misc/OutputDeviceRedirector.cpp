@@ -54,8 +54,7 @@ void FOutputDeviceRedirector::Serialize(const TCHAR* Message, ELogVerbosity::Typ
 	Deliver(Message, Verbosity, Category, true);
 }
 
-void FOutputDeviceRedirector::Deliver(
-	const TCHAR* Message, ELogVerbosity::Type Verbosity, const FName& Category, bool bToMultipleThreads)
+void FOutputDeviceRedirector::Deliver(const TCHAR* Message, ELogVerbosity::Type Verbosity, const FName& Category, bool bToMultipleThreads)
 {
 	FScopeLock Lock(&DevicesLock);
 	if (Devices.empty() && Verbosity == ELogVerbosity::Fatal && bToMultipleThreads)

@@ -122,8 +122,7 @@ IModuleInterface* FModuleManager::LoadModuleWithFailureReason(FName InModuleName
 	IModuleInterface* const Module = Modules.emplace_back(InModuleName, std::unique_ptr<IModuleInterface>(Initialize())).Interface.get();
 	Module->StartupModule();
 	// Modules that this one loaded while it started come before it, and go after it.
-	const auto Own =
-		std::find_if(Modules.begin(), Modules.end(), [Module](const FModule& Each) { return Each.Interface.get() == Module; });
+	const auto Own = std::find_if(Modules.begin(), Modules.end(), [Module](const FModule& Each) { return Each.Interface.get() == Module; });
 	std::rotate(Own, Own + 1, Modules.end());
 	ModulesChanged.Broadcast(InModuleName, EModuleChangeReason::ModuleLoaded);
 	return Module;

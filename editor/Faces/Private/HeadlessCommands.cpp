@@ -1,0 +1,165 @@
+#include "HeadlessCommands.h"
+
+#include "Agent/Agent.h"
+#include "Agent/KestrinInterface.h"
+#include "CoreHost/MainLoop.h"
+#include "HeadlessEvents.h"
+#include "JsonLine.h"
+#include "SettingsField.h"
+#include "ToolRun.h"
+#include "UObject/Class.h"
+
+namespace
+{
+/** A command's fields. What is missing or of a wrong type is an error of the command. */
+struct FArguments
+{
+	const FJsonObject& Fields;
+
+	FString Text(const TCHAR* Name) const
+	{
+		FString Value;
+		Fields.TryGetStringField(Name, Value);
+		return Value;
+	}
+	double Number(const TCHAR* Name, double Default) const
+	{
+		Fields.TryGetNumberField(Name, Default);
+		return Default;
+	}
+};
+
+struct FCommand
+{
+	const TCHAR* Name;
+	TArray<const TCHAR*> RequiredFields;
+	void (*Run)(const FArguments& Arguments);
+};
+
+FKestrinInterface& Interface()
+{
+	return FKestrinInterface::Get();
+}
+
+void RunToolCommand(const FArguments& Arguments)
+{
+	const FString Name = Arguments.Text(TEXT("name"));
+	const TSharedPtr<FJsonObject>* Input = nullptr;
+	Arguments.Fields.TryGetObjectField(TEXT("input"), Input);
+	for (const TSharedPtr<FJsonObject>& Result : RunTool(Name, Arguments.Text(TEXT("id")), Input ? *Input : nullptr))
+	{
+		WriteToolEvent(Name, *Result);
+	}
+}
+
+/** False, after an error event, when the list names a state that there is none of. */
+bool ReadStates(const FJsonObject& Fields, TArray<EAgentState>& OutStates)
+{
+	const TArray<TSharedPtr<FJsonValue>>* Names = nullptr;
+	if (!Fields.TryGetArrayField(TEXT("state"), Names))
+	{
+		WriteErrorEvent(TEXT("The command 'wait' takes 'state' as an array of names."));
+		return false;
+	}
+	for (const TSharedPtr<FJsonValue>& Name : *Names)
+	{
+		const FString Text = Name->Type == EJson::String ? Name->AsString() : FString();
+		const int64 Value = StaticEnum<EAgentState>()->GetValueByNameString(Text);
+		if (Value == INDEX_NONE)
+		{
+			WriteErrorEvent(FString::Printf(TEXT("There is no state '%s'."), *Text));
+			return false;
+		}
+		OutStates.Add(static_cast<EAgentState>(Value));
+	}
+	return true;
+}
+
+void RunWaitCommand(const FArguments& Arguments)
+{
+	TArray<EAgentState> States;
+	if (!ReadStates(Arguments.Fields, States))
+	{
+		return;
+	}
+	const auto IsThere = [&States] { return States.IsEmpty() || States.Contains(FAgent::Get().GetState()); };
+	const bool bThere = IsThere() || FMainLoop::RunUntil(IsThere, Arguments.Number(TEXT("timeout"), 30.0));
+	WriteWaitedEvent(!bThere);
+}
+
+void RunSetCommand(const FArguments& Arguments)
+{
+	const bool bSave = Arguments.Fields.HasField(TEXT("save")) && Arguments.Fields.GetBoolField(TEXT("save"));
+	FString Error;
+	if (!SetSettingsField(Arguments.Text(TEXT("name")), *Arguments.Fields.TryGetField(TEXT("value")), bSave, Error))
+	{
+		WriteErrorEvent(Error);
+	}
+}
+
+const TCHAR* const Text = TEXT("text");
+
+const TArray<FCommand> Commands = {
+	{ TEXT("start"), { Text }, [](const FArguments& Arguments) { Interface().InitialRequest(Arguments.Text(Text)); } },
+	{ TEXT("regular"), { Text }, [](const FArguments& Arguments) { Interface().RegularRequest(Arguments.Text(Text)); } },
+	{ TEXT("continue"), { Text }, [](const FArguments& Arguments) { Interface().Continue(Arguments.Text(Text)); } },
+	{ TEXT("approve"), {}, [](const FArguments&) { Interface().Approve(); } },
+	{ TEXT("pause"), {}, [](const FArguments&) { Interface().PauseRequest(); } },
+	{ TEXT("end"), { Text }, [](const FArguments& Arguments) { Interface().EndRequest(Arguments.Text(Text)); } },
+	{ TEXT("cancel"), { Text }, [](const FArguments& Arguments) { Interface().CancelRequest(Arguments.Text(Text)); } },
+	{ TEXT("undo"), {}, [](const FArguments&) { Interface().UndoLastOperation(); } },
+	{ TEXT("redo"), {}, [](const FArguments&) { Interface().RedoLastOperation(); } },
+	{ TEXT("set"), { TEXT("name"), TEXT("value") }, &RunSetCommand },
+	{ TEXT("tool"), { TEXT("name") }, &RunToolCommand },
+	{ TEXT("wait"), { TEXT("state") }, &RunWaitCommand },
+	{ TEXT("tick"), { TEXT("seconds") },
+		[](const FArguments& Arguments) { FMainLoop::RunFor(FMath::Max(0.0, Arguments.Number(TEXT("seconds"), 0.0))); } },
+	{ TEXT("query"), {}, [](const FArguments&) { WriteStateEvent(); } },
+};
+
+/** Null, with a message, when the line is no command with all its fields. */
+const FCommand* FindCommand(const FString& Name, const FJsonObject& Fields, FString& OutError)
+{
+	const FCommand* const Command = Commands.FindByPredicate([&Name](const FCommand& Each) { return Name.Equals(Each.Name); });
+	if (!Command)
+	{
+		OutError = FString::Printf(TEXT("There is no command '%s'."), *Name);
+		return nullptr;
+	}
+	for (const TCHAR* Field : Command->RequiredFields)
+	{
+		if (!Fields.HasField(Field))
+		{
+			OutError = FString::Printf(TEXT("The command '%s' needs the field '%s'."), *Name, Field);
+			return nullptr;
+		}
+	}
+	return Command;
+}
+}
+
+EHeadlessCommand RunHeadlessCommand(const FString& Line)
+{
+	FString Error;
+	const TSharedPtr<FJsonObject> Fields = ReadJsonObject(Line, Error);
+	if (!Fields.IsValid())
+	{
+		WriteErrorEvent(FString::Printf(TEXT("The line is no JSON object: %s"), *Error));
+		return EHeadlessCommand::Done;
+	}
+	const FArguments Arguments{ *Fields };
+	const FString Name = Arguments.Text(TEXT("do"));
+	if (Name.Equals(TEXT("quit")))
+	{
+		return EHeadlessCommand::Quit;
+	}
+	if (const FCommand* const Command = FindCommand(Name, *Fields, Error))
+	{
+		Command->Run(Arguments);
+	}
+	else
+	{
+		WriteErrorEvent(Error);
+	}
+	return EHeadlessCommand::Done;
+}

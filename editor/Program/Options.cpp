@@ -1,0 +1,124 @@
+#include "Options.h"
+
+#include "Misc/Paths.h"
+
+namespace
+{
+/** The words of the command line, taken one after the other. */
+class FWords
+{
+public:
+	explicit FWords(const TArray<FString>& InWords)
+		: Words(InWords)
+	{
+	}
+
+	bool IsEmpty() const { return Next == Words.Num(); }
+	const FString& Take() { return Words[Next++]; }
+	/** False when there are fewer. */
+	bool Has(int32 Count) const { return Words.Num() - Next >= Count; }
+
+private:
+	const TArray<FString>& Words;
+	int32 Next = 0;
+};
+
+struct FOption
+{
+	const TCHAR* Name;
+	/** How many words follow it. */
+	int32 Arguments;
+	/** False when an argument is no good. */
+	bool (*Apply)(FWords& Words, FProgramOptions& Options);
+};
+
+template <EEditorFace Face>
+bool ChooseFace(FWords&, FProgramOptions& Options)
+{
+	Options.Face.Face = Face;
+	return true;
+}
+
+const TArray<FOption> KnownOptions = {
+	{ TEXT("--headless"), 0, &ChooseFace<EEditorFace::Headless> },
+	{ TEXT("--terminal"), 0, &ChooseFace<EEditorFace::Terminal> },
+	{ TEXT("--call"), 2,
+		[](FWords& Words, FProgramOptions& Options) {
+			const FString Tool = Words.Take();
+			Options.Face.Calls.Add({ Tool, Words.Take() });
+			return ChooseFace<EEditorFace::Call>(Words, Options);
+		} },
+	{ TEXT("--clock-rate"), 1,
+		[](FWords& Words, FProgramOptions& Options) {
+			Options.ClockRate = FCString::Atod(*Words.Take());
+			return Options.ClockRate > 0.0;
+		} },
+	{ TEXT("--log"), 1,
+		[](FWords& Words, FProgramOptions& Options) {
+			Options.LogFile = FPaths::ConvertRelativePathToFull(Words.Take());
+			return true;
+		} },
+	{ TEXT("--plugin"), 1,
+		[](FWords& Words, FProgramOptions& Options) {
+			Options.PluginFolder = FPaths::ConvertRelativePathToFull(Words.Take());
+			return true;
+		} },
+	{ TEXT("--help"), 0,
+		[](FWords&, FProgramOptions& Options) {
+			Options.bShowHelp = true;
+			return true;
+		} },
+	{ TEXT("--version"), 0,
+		[](FWords&, FProgramOptions& Options) {
+			Options.bShowVersion = true;
+			return true;
+		} },
+};
+}
+
+bool ParseOptions(const TArray<FString>& Words, FProgramOptions& OutOptions, FString& OutError)
+{
+	FWords Rest(Words);
+	while (!Rest.IsEmpty())
+	{
+		const FString Word = Rest.Take();
+		const FOption* const Option = KnownOptions.FindByPredicate([&Word](const FOption& Each) { return Word.Equals(Each.Name); });
+		if (Option)
+		{
+			if (!Rest.Has(Option->Arguments) || !Option->Apply(Rest, OutOptions))
+			{
+				OutError = FString::Printf(TEXT("%s: its value is missing or no good"), *Word);
+				return false;
+			}
+		}
+		else if (Word.StartsWith(TEXT("--")) || !OutOptions.Project.IsEmpty())
+		{
+			OutError = FString::Printf(TEXT("%s: unknown option, or one project too many"), *Word);
+			return false;
+		}
+		else
+		{
+			OutOptions.Project = FPaths::ConvertRelativePathToFull(Word);
+		}
+	}
+	if (OutOptions.Project.IsEmpty() && !OutOptions.bShowHelp && !OutOptions.bShowVersion)
+	{
+		OutError = TEXT("no project given");
+		return false;
+	}
+	return true;
+}
+
+FString GetUsage()
+{
+	return TEXT("kestrin-editor PROJECT.uproject [--terminal | --headless | --call TOOL JSON ...] [options]\n"
+				"\n"
+				"  --terminal          a conversation on the terminal\n"
+				"  --headless          commands on standard input, events on standard output, one JSON object a line (the default)\n"
+				"  --call TOOL JSON    run a tool and print its result; may be repeated\n"
+				"\n"
+				"  --clock-rate N      the platform's clock runs N times as fast\n"
+				"  --log FILE          where the editor's log goes (standard error otherwise)\n"
+				"  --plugin DIR        another copy of the plug-in\n"
+				"  --help, --version\n");
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Dom/JsonObject.h"
+
+DECLARE_DELEGATE_OneParam(FOnDirectoryStructureReady, const FString&);
+
+/**
+ * What the assistant does to the project's text files, and how it sees the project's folders.
+ *
+ * A path is relative to the project directory or absolute; nothing confines it to the project. The file operations answer with a
+ * text for the service: one that begins with "Error:" reports a failure. A changed file is deleted and written anew; should the
+ * writing fail, its old bytes are put back. The callers' thread does the work.
+ */
+class KESTRIN_API FFileUtils
+{
+public:
+	/** Whether a result text reports a failure. So does the content of a file that begins that way. */
+	static bool IsFailure(const FString& Result);
+	static FString GetFullPath(const FString& FilePath);
+
+	/** @return the whole text, or an error text */
+	static FString ReadFile(const FString& FilePath);
+	/** Lines StartLine to EndLine, both counted from 1 and included; an EndLine of -1 is the last one. @return them, joined by "\n" */
+	static FString ReadFileLineRange(const FString& FilePath, int32 StartLine, int32 EndLine);
+	/** Makes the directories that are missing. Overwrites a file that is there. */
+	static FString CreateNewFileWithContent(const FString& FilePath, const FString& Content);
+	static FString ReplaceFile(const FString& FilePath, const FString& NewContent);
+	static FString DeleteFile(const FString& FilePath);
+	/**
+	 * Replaces every occurrence of OldString. When it is not in the file as given, it is tried with the file's line ends and
+	 * its kind of indentation. The out texts are the file's before and after; both may be set when the call ends in an error.
+	 */
+	static FString UpdateFile(const FString& FilePath, const FString& OldString, const FString& NewString, FString& OutOldContent,
+		FString& OutNewContent);
+	/** Inserts Text as one line before the line of that index, counted from 0 and clamped to the file. */
+	static FString InsertIntoFile(const FString& FilePath, int32 LineNumber, const FString& Text);
+	/** Replaces a line, counted from 1. Does nothing when that can't be done. */
+	static void ReplaceLineInFile(const FString& FilePath, int32 LineNumber, const FString& NewLine);
+
+	/** @return the tree of a directory as condensed JSON: a file name maps to "#", a directory name to an object */
+	static FString GetSubDirectoryStructureAsJsonObject(const FString& DirectoryPath);
+	/** The same in a later task of the game thread; the callback runs in another one after that. */
+	static void GetSubDirectoryStructureAsJsonObjectAsync(const FString& DirectoryPath, FOnDirectoryStructureReady Callback);
+	/**
+	 * Files first, then directories; directories without a file are left out, excluded ones are not looked into.
+	 * Extensions are without dots. Every entry of the lists is compared ignoring case.
+	 */
+	static TSharedPtr<FJsonObject> BuildJsonTree(const FString& DirectoryPath, const TArray<FString>& SupportedExtensions,
+		const TArray<FString>& ExcludedDirectories, const TSet<FName>& AssetClassPatterns);
+
+	/** Paths below a directory of the project, relative to the project, by fixed lists of extensions and directories. */
+	static TArray<FString> GetDirectoryStructureAsList(const FString& DirectoryPath);
+	/** The whole project's list, sorted, as a JSON array. */
+	static FString GetProjectStructureAsJsonList();
+
+private:
+	static void AsyncDirectoryWorker(const FString& DirectoryPath, FOnDirectoryStructureReady Callback);
+};

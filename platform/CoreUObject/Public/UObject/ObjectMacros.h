@@ -1,0 +1,149 @@
+#pragma once
+
+// The reflection macros and the flags of objects, classes, functions and properties, with the engine's values.
+
+#include "CoreMinimal.h"
+
+class FObjectInitializer;
+class UClass;
+class UEnum;
+class UObject;
+class UScriptStruct;
+
+// What the header tool reads. Only GENERATED_BODY stands for code: a macro of the .generated.h, named after its line.
+#define UCLASS(...)
+#define USTRUCT(...)
+#define UENUM(...)
+#define UPROPERTY(...)
+#define UFUNCTION(...)
+#define UMETA(...)
+#define UPARAM(...)
+#define BODY_MACRO_COMBINE_INNER(A, B, C, D) A##B##C##D
+#define BODY_MACRO_COMBINE(A, B, C, D) BODY_MACRO_COMBINE_INNER(A, B, C, D)
+#define GENERATED_BODY(...) BODY_MACRO_COMBINE(CURRENT_FILE_ID, _, __LINE__, _GENERATED_BODY)
+
+/** A member's name as an FName; an error of the compiler when there is no such member. */
+#define GET_MEMBER_NAME_CHECKED(ClassName, MemberName) (static_cast<void>(sizeof(&ClassName::MemberName)), FName(TEXT(#MemberName)))
+
+/** A reflected enum's object. */
+template <typename EnumType>
+UEnum* StaticEnum();
+
+#define UE_FLAG_OPERATORS(Enum)                                                                                                            \
+	constexpr Enum operator|(Enum A, Enum B)                                                                                               \
+	{                                                                                                                                      \
+		return static_cast<Enum>(static_cast<std::underlying_type_t<Enum>>(A) | static_cast<std::underlying_type_t<Enum>>(B));             \
+	}                                                                                                                                      \
+	constexpr Enum operator&(Enum A, Enum B)                                                                                               \
+	{                                                                                                                                      \
+		return static_cast<Enum>(static_cast<std::underlying_type_t<Enum>>(A) & static_cast<std::underlying_type_t<Enum>>(B));             \
+	}                                                                                                                                      \
+	constexpr Enum operator~(Enum A)                                                                                                       \
+	{                                                                                                                                      \
+		return static_cast<Enum>(~static_cast<std::underlying_type_t<Enum>>(A));                                                           \
+	}                                                                                                                                      \
+	constexpr Enum& operator|=(Enum& A, Enum B)                                                                                            \
+	{                                                                                                                                      \
+		return A = A | B;                                                                                                                  \
+	}                                                                                                                                      \
+	constexpr Enum& operator&=(Enum& A, Enum B)                                                                                            \
+	{                                                                                                                                      \
+		return A = A & B;                                                                                                                  \
+	}
+
+enum EObjectFlags : uint32
+{
+	RF_NoFlags = 0x00000000,
+	RF_Public = 0x00000001,
+	/** Stays without being referred to, as long as the collector is told to keep such objects. */
+	RF_Standalone = 0x00000002,
+	/** Made by C++ code's registration; never collected. */
+	RF_MarkAsNative = 0x00000004,
+	RF_Transactional = 0x00000008,
+	RF_ClassDefaultObject = 0x00000010,
+	RF_Transient = 0x00000040,
+};
+UE_FLAG_OPERATORS(EObjectFlags)
+
+enum EClassFlags : uint32
+{
+	CLASS_None = 0x00000000,
+	CLASS_Abstract = 0x00000001,
+	CLASS_DefaultConfig = 0x00000002,
+	CLASS_Config = 0x00000004,
+	CLASS_Transient = 0x00000008,
+	CLASS_Native = 0x00000080,
+	CLASS_NotPlaceable = 0x00000200,
+	CLASS_EditInlineNew = 0x00001000,
+	CLASS_CollapseCategories = 0x00002000,
+	CLASS_Const = 0x00010000,
+	CLASS_CompiledFromBlueprint = 0x00040000,
+	CLASS_MinimalAPI = 0x00080000,
+	CLASS_DefaultToInstanced = 0x00200000,
+	CLASS_Deprecated = 0x02000000,
+	CLASS_HideDropDown = 0x04000000,
+	CLASS_Intrinsic = 0x10000000,
+	/** What a class takes over from its super class. */
+	CLASS_Inherit = CLASS_DefaultConfig | CLASS_Config | CLASS_Transient | CLASS_NotPlaceable | CLASS_EditInlineNew | CLASS_Const |
+		CLASS_DefaultToInstanced | CLASS_Deprecated,
+};
+UE_FLAG_OPERATORS(EClassFlags)
+
+enum EFunctionFlags : uint32
+{
+	FUNC_None = 0x00000000,
+	FUNC_Exec = 0x00000200,
+	FUNC_Native = 0x00000400,
+	FUNC_Static = 0x00002000,
+	FUNC_Public = 0x00020000,
+	FUNC_Private = 0x00040000,
+	FUNC_Protected = 0x00080000,
+	FUNC_HasOutParms = 0x00400000,
+	FUNC_BlueprintCallable = 0x04000000,
+	FUNC_BlueprintEvent = 0x08000000,
+	FUNC_BlueprintPure = 0x10000000,
+	FUNC_Const = 0x40000000,
+};
+UE_FLAG_OPERATORS(EFunctionFlags)
+
+enum EPropertyFlags : uint64
+{
+	CPF_None = 0,
+	CPF_Edit = 0x0000000000000001,
+	CPF_ConstParm = 0x0000000000000002,
+	CPF_BlueprintVisible = 0x0000000000000004,
+	CPF_ExportObject = 0x0000000000000008,
+	CPF_BlueprintReadOnly = 0x0000000000000010,
+	CPF_Net = 0x0000000000000020,
+	CPF_EditFixedSize = 0x0000000000000040,
+	CPF_Parm = 0x0000000000000080,
+	CPF_OutParm = 0x0000000000000100,
+	CPF_ReturnParm = 0x0000000000000400,
+	CPF_DisableEditOnTemplate = 0x0000000000000800,
+	CPF_Transient = 0x0000000000002000,
+	CPF_Config = 0x0000000000004000,
+	CPF_DisableEditOnInstance = 0x0000000000010000,
+	CPF_EditConst = 0x0000000000020000,
+	CPF_GlobalConfig = 0x0000000000040000,
+	CPF_InstancedReference = 0x0000000000080000,
+	CPF_DuplicateTransient = 0x0000000000200000,
+	CPF_SaveGame = 0x0000000001000000,
+	CPF_NoClear = 0x0000000002000000,
+	CPF_ReferenceParm = 0x0000000008000000,
+	CPF_BlueprintAssignable = 0x0000000010000000,
+	CPF_Deprecated = 0x0000000020000000,
+	CPF_RepNotify = 0x0000000100000000,
+	CPF_Interp = 0x0000000200000000,
+	CPF_AssetRegistrySearchable = 0x0000010000000000,
+	CPF_AdvancedDisplay = 0x0000040000000000,
+	CPF_ExposeOnSpawn = 0x0001000000000000,
+};
+UE_FLAG_OPERATORS(EPropertyFlags)
+
+/** How a value is written as text and read. */
+enum EPropertyPortFlags : uint32
+{
+	PPF_None = 0x00000000,
+	/** Strings and names are quoted, since other text follows. */
+	PPF_Delimited = 0x00000002,
+};

@@ -1,0 +1,4 @@
+#pragma once
+
+// The engine keeps FTextProperty in a header of its own.
+#include "UObject/ScalarProperty.h"
