@@ -154,6 +154,7 @@ std::unique_ptr<httplib::SSLClient> ServiceProcess::Connect(const std::string& H
 	auto Client = std::make_unique<httplib::SSLClient>(Host, Port);
 	Client->set_ca_cert_path(GetCertificate().c_str());
 	Client->set_keep_alive(true);
+	Client->set_tcp_nodelay(true);
 	return Client;
 }
 

@@ -55,7 +55,7 @@ struct FCommand
 {
 	const TCHAR* Name;
 	const TCHAR* Help;
-	/** Whether it is for a request that runs. */
+	/** Whether it makes sense only while the agent works. */
 	bool bForRunningRequest;
 	void (*Run)(const FString& Argument, const FTerminalStyle& Style);
 };
@@ -69,9 +69,9 @@ const TArray<FCommand> Commands = {
 			Interface().Continue(FString());
 		} },
 	{ TEXT("/pause"), TEXT("pause at the next answer"), true, [](const FString&, const FTerminalStyle&) { Interface().PauseRequest(); } },
-	{ TEXT("/end"), TEXT("end the conversation"), true,
+	{ TEXT("/end"), TEXT("end the conversation"), false,
 		[](const FString& Argument, const FTerminalStyle&) { Interface().EndRequest(Argument); } },
-	{ TEXT("/cancel"), TEXT("cancel the conversation; a text says why"), true,
+	{ TEXT("/cancel"), TEXT("cancel the conversation; a text says why"), false,
 		[](const FString& Argument, const FTerminalStyle&) { Interface().CancelRequest(Argument); } },
 	{ TEXT("/undo"), TEXT("take back the last conversation's changes"), false,
 		[](const FString&, const FTerminalStyle&) { Interface().UndoLastOperation(); } },

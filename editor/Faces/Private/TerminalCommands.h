@@ -10,7 +10,7 @@ enum class ETerminalCommand : uint8
 
 /** Whether the agent waits for the user. */
 bool WaitsForUser();
-/** Whether a line is a command that makes sense while the agent works. */
+/** Whether a line is a command that makes sense only while the agent works. */
 bool IsForRunningRequest(const FString& Line);
 /** Carries out a line: a prompt or a "/" command. */
 ETerminalCommand RunTerminalLine(const FString& Line, const FTerminalStyle& Style);

@@ -27,11 +27,16 @@ FTerminalFace::FTerminalFace()
 	FKestrinInterface& Interface = FKestrinInterface::Get();
 	Interface.OnAddStatusMessageDelegate.BindLambda([this](FString Text, FLinearColor, FName FontName, float) {
 		bPromptShown = false;
+		bCommandOnItsWay |= Text == TEXT("Sending request...");
 		Style.PrintLine(Text, GetChatLook(FontName));
 	});
 	Interface.OnAddDiffMessageDelegate.BindLambda([this](FString Path, FString OldContent, FString NewContent) {
 		bPromptShown = false;
 		Style.PrintDiff(Path, OldContent, NewContent);
+	});
+	StateHandle = FAgent::Get().OnAgentStateChanged.AddLambda([this] {
+		const EAgentState State = FAgent::Get().GetState();
+		bCommandOnItsWay &= State != EAgentState::PollRequest && State != EAgentState::Idle;
 	});
 	std::signal(SIGINT, &CountInterrupt);
 }
@@ -39,6 +44,7 @@ FTerminalFace::FTerminalFace()
 FTerminalFace::~FTerminalFace()
 {
 	std::signal(SIGINT, SIG_DFL);
+	FAgent::Get().OnAgentStateChanged.Remove(StateHandle);
 	FKestrinInterface::Get().OnAddStatusMessageDelegate.Unbind();
 	FKestrinInterface::Get().OnAddDiffMessageDelegate.Unbind();
 }
@@ -55,7 +61,7 @@ int32 FTerminalFace::Run()
 		FMainLoop::Tick();
 		HandleInterrupt();
 		TakeLines(Input);
-		if (Input.HasEnded() && !bHasNextLine && (bInteractive || WaitsForUser()))
+		if (Input.HasEnded() && !bHasNextLine && (bInteractive || IsUsersTurn()))
 		{
 			break;
 		}
@@ -80,9 +86,15 @@ void FTerminalFace::TakeLines(FLineReader& Input)
 	}
 }
 
+bool FTerminalFace::IsUsersTurn() const
+{
+	// The agent is in AwaitingUpdate already while the result of a "finish" is still being sent.
+	return WaitsForUser() && !bCommandOnItsWay;
+}
+
 bool FTerminalFace::IsLineDue(const FString& Line) const
 {
-	return bInteractive || WaitsForUser() || IsForRunningRequest(Line.TrimStartAndEnd());
+	return bInteractive || IsUsersTurn() || IsForRunningRequest(Line.TrimStartAndEnd());
 }
 
 void FTerminalFace::HandleInterrupt()
@@ -97,7 +109,7 @@ void FTerminalFace::HandleInterrupt()
 	{
 		bQuit = true;
 	}
-	else if (bTwice || WaitsForUser())
+	else if (bTwice || IsUsersTurn())
 	{
 		FKestrinInterface::Get().EndRequest(FString());
 	}
@@ -109,7 +121,7 @@ void FTerminalFace::HandleInterrupt()
 
 void FTerminalFace::ShowPrompt()
 {
-	if (bInteractive && !bPromptShown && WaitsForUser())
+	if (bInteractive && !bPromptShown && IsUsersTurn())
 	{
 		bPromptShown = true;
 		Style.PrintPrompt(TEXT("> "));

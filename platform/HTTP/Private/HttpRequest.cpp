@@ -65,17 +65,33 @@ void FHttpRequest::SetContentAsString(const FString& ContentString)
 bool FHttpRequest::ProcessRequest()
 {
 	const TSharedPtr<FHttpManager> Keeper = Manager.Pin();
-	if (!Keeper || Url.IsEmpty() || Status == EHttpRequestStatus::Processing)
+	if (!Keeper)
 	{
-		UE_LOG(LogHttp, Warning, TEXT("%s %s was not sent: %s"), *Verb, *WithoutQuery(Url),
-			!Keeper             ? TEXT("the module is unloaded")
-				: Url.IsEmpty() ? TEXT("it has no URL")
-								: TEXT("it is being processed"));
-		return false;
+		return Refuse(TEXT("the module is unloaded"));
+	}
+	if (Url.IsEmpty())
+	{
+		return Refuse(TEXT("it has no URL"));
+	}
+	if (Status == EHttpRequestStatus::Processing)
+	{
+		return Refuse(TEXT("it is being processed already"));
 	}
 	Status = EHttpRequestStatus::Processing;
 	Response.Reset();
 	ExchangeId = Keeper->MakeId();
+	Keeper->Start(AsShared(), MakeExchange());
+	return true;
+}
+
+bool FHttpRequest::Refuse(const TCHAR* Reason) const
+{
+	UE_LOG(LogHttp, Warning, TEXT("%s %s was not sent: %s"), *Verb, *WithoutQuery(Url), Reason);
+	return false;
+}
+
+FHttpExchange FHttpRequest::MakeExchange() const
+{
 	FHttpExchange Exchange;
 	Exchange.Id = ExchangeId;
 	Exchange.Verb = Verb;
@@ -84,8 +100,7 @@ bool FHttpRequest::ProcessRequest()
 	Exchange.Content = Content;
 	Exchange.Timeout = Timeout;
 	Exchange.ExtraCertificates = FPaths::Combine(FPaths::ProjectContentDir(), TEXT("Certificates/cacert.pem"));
-	Keeper->Start(AsShared(), MoveTemp(Exchange));
-	return true;
+	return Exchange;
 }
 
 void FHttpRequest::CancelRequest()

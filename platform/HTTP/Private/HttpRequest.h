@@ -34,6 +34,10 @@ public:
 	void Complete(FHttpOutcome Outcome);
 
 private:
+	/** @return false */
+	bool Refuse(const TCHAR* Reason) const;
+	FHttpExchange MakeExchange() const;
+
 	/** Not kept alive: a request may outlive the module. */
 	TWeakPtr<FHttpManager> Manager;
 	int32 ExchangeId = 0;

@@ -1,5 +1,6 @@
 #include "UObject/GeneratedCode.h"
 
+#include "Modules/ModuleManager.h"
 #include "ObjectTable.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
@@ -186,6 +187,13 @@ UEnum* Construct(UEnum*& Made, const FEnumInfo& Info)
 		Made->AddEnumerator(FName(Prefix + Made->CppType + TEXT("_MAX")), Highest + 1, FFieldMetaData());
 	}
 	return Made;
+}
+
+namespace
+{
+/** A module's types are made before the module starts. */
+const FDelegateHandle OnModuleLoaded =
+	FModuleManager::Get().OnProcessLoadedObjectsCallback().AddLambda([](FName, bool) { ProcessNewlyLoadedUObjects(); });
 }
 
 FRegisterModuleTypes::FRegisterModuleTypes(const FModuleTypes& Types)
