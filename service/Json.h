@@ -13,9 +13,17 @@ inline std::string ToText(const Json& Value)
 	return Value.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-/** The value that the text holds; `is_discarded()` when it is no JSON. */
+/** The value that the text holds; `is_discarded()` when it is no JSON, or nested deeper than the recursive writer can bear. */
 inline Json ParseJson(const std::string& Text)
 {
-	return Json::parse(Text, nullptr, false);
+	constexpr int DeepestNesting = 500;
+	bool bTooDeep = false;
+	const auto Watch = [&bTooDeep](int Depth, Json::parse_event_t, Json&)
+	{
+		bTooDeep |= Depth > DeepestNesting;
+		return true;
+	};
+	Json Value = Json::parse(Text, Watch, false);
+	return bTooDeep ? Json(Json::value_t::discarded) : Value;
 }
 }

@@ -7,6 +7,8 @@
 
 #include <sys/stat.h>
 
+using namespace std::string_literals;
+
 namespace
 {
 // A key's values, joined by "|"; "(none)" for a key that is not named.
@@ -60,7 +62,7 @@ TEST(ConfigFile, AppliesEachKindOfLine)
 TEST(ConfigFile, PassesOverBadLinesAndNamesThem)
 {
 	const FTestDirectory Directory;
-	Directory.Write("Bad.ini", std::string("K=0\n[S]\nno key\n[open\nK=1\n=5\n+=6\n]\n\0\x01\xFF\nK=2", 47 - 5));
+	Directory.Write("Bad.ini", "K=0\n[S]\nno key\n[open\nK=1\n=5\n+=6\n]\n\0\x01\xFF\nK=2"s);
 	const FLogLines Log;
 	FConfigFile File;
 	File.Read(Directory / "Bad.ini");
@@ -105,7 +107,7 @@ TEST(ConfigFile, WritesItsKeysAndKeepsAllOtherBytes)
 		{ "", "[S]\nK=v\n!L=ClearArray\n+L=a\n.L=a\n" },
 		{ "[S]\nK=v\n", "[S]\nK=v\n!L=ClearArray\n+L=a\n.L=a\n" },
 		{ "; top\n[S] \n; mine\n k =old ; no comment\nOther = 1\n\n[T]\nK=old\n",
-			"; top\n[S] \n; mine\nK=v\nOther = 1\n!L=ClearArray\n+L=a\n.L=a\n\n[T]\nK=old\n" },
+			"; top\n[S] \n; mine\nk=v\nOther = 1\n!L=ClearArray\n+L=a\n.L=a\n\n[T]\nK=old\n" },
 		{ "[T]\r\nK=1", "[T]\r\nK=1\r\n\r\n[S]\r\nK=v\r\n!L=ClearArray\r\n+L=a\r\n.L=a\r\n" },
 		{ "[S]\n!L=x\n+L=b\n-L=c\nbad line\n+L=d\n", "[S]\n!L=ClearArray\n+L=a\n.L=a\nbad line\nK=v\n" },
 		{ "[S]\nK=1\n[T]\n[s]\nK=2\n+L=3", "[S]\nK=v\n[T]\n[s]\n!L=ClearArray\n+L=a\n.L=a\n" },

@@ -14,6 +14,12 @@ namespace
 class ObjectConfig : public testing::Test
 {
 protected:
+	// The default objects are made while no project is open, so that they have the defaults of the sources.
+	static void SetUpTestSuite()
+	{
+		GetDefault<UTestDerivedSettings>();
+		GetDefault<UTestUserSettings>();
+	}
 	void SetUp() override { FHostProject::Set(Directory / "My Project/My Pröject.uproject"); }
 	void TearDown() override { FHostProject::Set(FString()); }
 

@@ -69,23 +69,22 @@ TEST_F(GarbageCollection, KeepsWhatRootsReachAndDestroysTheRest)
 	struct
 	{
 		const char* Name;
-		TFunction<void(UTestObject* Root, UTestObject* Object)> Refer;
+		TFunction<void(UTestObject* Holder, UTestObject* Object)> Refer;
 		int32 Destroyed;
 	} const Cases[] = {
 		{ "nothing refers", [](UTestObject*, UTestObject*) {}, 1 },
-		{ "a pointer", [](UTestObject* Root, UTestObject* Object) { Root->Smart = Object; }, 0 },
-		{ "an array", [](UTestObject* Root, UTestObject* Object) { Root->Objects.Add(Object); }, 0 },
-		{ "a struct", [](UTestObject* Root, UTestObject* Object) { Root->Item.Owner = Object; }, 0 },
-		{ "an array of structs", [](UTestObject* Root, UTestObject* Object) { Root->Items.AddDefaulted_GetRef().Owner = Object; }, 0 },
+		{ "a pointer", [](UTestObject* Holder, UTestObject* Object) { Holder->Smart = Object; }, 0 },
+		{ "an array", [](UTestObject* Holder, UTestObject* Object) { Holder->Objects.Add(Object); }, 0 },
+		{ "a struct", [](UTestObject* Holder, UTestObject* Object) { Holder->Item.Owner = Object; }, 0 },
+		{ "an array of structs", [](UTestObject* Holder, UTestObject* Object) { Holder->Items.AddDefaulted_GetRef().Owner = Object; }, 0 },
 		{ "over another object",
-			[](UTestObject* Root, UTestObject* Object) {
-				Root->Raw = NewObject<UTestOther>();
-				Root->Raw->Friends.Add(Object);
+			[](UTestObject* Holder, UTestObject* Object) {
+				Holder->Raw = NewObject<UTestOther>();
+				Holder->Raw->Friends.Add(Object);
 			},
 			0 },
 		{ "only itself", [](UTestObject*, UTestObject* Object) { Object->Smart = Object; }, 1 },
-		{ "a weak pointer", [](UTestObject*, UTestObject* Object) { static TWeakObjectPtr<UTestObject> Weak = Object; }, 1 },
-		{ "an object inside", [](UTestObject* Root, UTestObject* Object) { Root->Smart = NewObject<UTestObject>(Object); }, 0 },
+		{ "an object inside", [](UTestObject* Holder, UTestObject* Object) { Holder->Smart = NewObject<UTestObject>(Object); }, 0 },
 	};
 	for (const auto& Each : Cases)
 	{

@@ -52,7 +52,11 @@ TEST(Protocol, RefusesWhatItDoesNotKnow)
 		{ "no object", "/prod/command", "[]", Right, 400 },
 		{ "no UTF-8", "/prod/command", "{\"message\":\"\xff\"}", Right, 400 },
 	};
+	const std::string Deep = "{\"a\":" + std::string(200'000, '[') + std::string(200'000, ']') + "}";
 	auto Client = Service.Connect();
+	const auto Refused = Client->Post("/prod/command", Right, Deep, JsonType);
+	ASSERT_TRUE(Refused);
+	EXPECT_EQ(Refused->status, 400);
 	for (const auto& Case : Cases)
 	{
 		const auto Answer = Case.Body ? Client->Post(Case.Path, Case.Headers, Case.Body, JsonType) : Client->Get(Case.Path, Case.Headers);

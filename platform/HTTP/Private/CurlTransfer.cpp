@@ -159,7 +159,7 @@ size_t FCurlTransfer::OnHeader(char* Data, size_t Size, size_t Count, void* Self
 	}
 	else if (Line.Split(TEXT(":"), &Name, &Value))
 	{
-		Headers.Emplace(Name, Value.TrimStart());
+		Headers.Add({ Name, Value.TrimStart() });
 	}
 	return Size * Count;
 }

@@ -68,7 +68,7 @@ FString FModuleManager::FindLibrary(const FString& ModuleName) const
 {
 	for (const FString& Directory : Directories)
 	{
-		const FString File = FPaths::Combine(Directory, LibraryName(ModuleName));
+		FString File = FPaths::Combine(Directory, LibraryName(ModuleName));
 		if (FPaths::FileExists(File))
 		{
 			return File;

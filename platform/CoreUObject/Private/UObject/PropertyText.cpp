@@ -35,7 +35,7 @@ const TCHAR* ReadQuoted(const TCHAR* Buffer, FString& Out)
 const TCHAR* ReadWord(const TCHAR* Buffer, FString& Out)
 {
 	const TCHAR* End = Buffer;
-	while (*End != '\0' && *End != ',' && *End != ')' && *End != '"' && !FChar::IsWhitespace(*End))
+	while (*End != '\0' && *End != ',' && *End != ')' && !FChar::IsWhitespace(*End))
 	{
 		++End;
 	}

@@ -7,7 +7,7 @@ namespace PropertyText
 {
 /** @return behind the closing quote of a quoted text, or null when Buffer is none */
 const TCHAR* ReadQuoted(const TCHAR* Buffer, FString& Out);
-/** Reads up to a comma, a closing bracket, a quote or white space. @return behind it */
+/** Reads up to a comma, a closing bracket or white space. @return behind it */
 const TCHAR* ReadWord(const TCHAR* Buffer, FString& Out);
 /** A value that stands among others: quoted, or a word. */
 const TCHAR* ReadDelimited(const TCHAR* Buffer, FString& Out);

@@ -52,7 +52,7 @@ const TCHAR* FStructProperty::ImportText_Direct(const TCHAR* Buffer, void* Prope
 		}
 		const FName Name(FString(static_cast<int32>(Buffer - NameBegin), NameBegin));
 		Buffer = PropertyText::SkipBlanks(Buffer);
-		if (*Buffer != '=')
+		if (*Buffer != '=' || Name.IsNone())
 		{
 			return nullptr;
 		}

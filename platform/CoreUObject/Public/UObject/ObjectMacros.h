@@ -2,6 +2,7 @@
 
 // The reflection macros and the flags of objects, classes, functions and properties, with the engine's values.
 
+#include "Containers/EnumAsByte.h"
 #include "CoreMinimal.h"
 
 class FObjectInitializer;
