@@ -41,6 +41,8 @@ void UnregisterSettingsPage()
 /** Takes the service's address and key from the project's stage file, when it is there and selects a stage. */
 void ReadStageFile()
 {
+	ApiUrlOverride.Empty();
+	ApiKeyOverride.Empty();
 	const FString StageFile = FPaths::Combine(FPaths::ProjectConfigDir(), TEXT("DefaultPlugin.ini"));
 	if (!FPlatformFileManager::Get().GetPlatformFile().FileExists(*StageFile))
 	{

@@ -62,6 +62,7 @@ void FConfigText::SetBytes(const TArray<uint8>& InBytes)
 	if (bLittle || bBig)
 	{
 		Units = bBig ? EUnits::Utf16Big : EUnits::Utf16Little;
+		OddByte = Bytes.size() % 2 ? Bytes.substr(Bytes.size() - 1) : std::string_view();
 		SplitLines(DecodeUtf16(Bytes.substr(2), bBig));
 		return;
 	}
@@ -193,6 +194,7 @@ TArray<uint8> FConfigText::GetBytes() const
 			}
 		}
 	}
+	Bytes += OddByte;
 	return TArray<uint8>(reinterpret_cast<const uint8*>(Bytes.data()), static_cast<int32>(Bytes.size()));
 }
 

@@ -58,4 +58,6 @@ private:
 	bool bChanged = false;
 	std::u16string LineEnd = u"\n";
 	TArray<FLine> Lines;
+	/** What is behind the last whole unit of a UTF-16 file. */
+	std::string OddByte;
 };
