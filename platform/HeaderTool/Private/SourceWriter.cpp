@@ -121,13 +121,16 @@ private:
 		Text += "\n";
 	}
 
-	void WriteMeta(const std::string& Name, const MetaData& Meta)
+	// The table's name for a member; the type's own has one that no member's can be.
+	static std::string MetaName(const std::string& Member) { return Member.empty() ? "TypeMeta" : Member + "_Meta"; }
+
+	void WriteMeta(const std::string& Member, const MetaData& Meta)
 	{
 		if (Meta.GetPairs().empty())
 		{
 			return;
 		}
-		Text += "\tstatic constexpr UECodeGen::FMetaDataPair " + Name + "_Meta[] = {\n";
+		Text += "\tstatic constexpr UECodeGen::FMetaDataPair " + MetaName(Member) + "[] = {\n";
 		for (const auto& [Key, Value] : Meta.GetPairs())
 		{
 			Text += "\t\t{ " + Quote(Key) + ", " + Quote(Value) + " },\n";
@@ -135,9 +138,9 @@ private:
 		Text += "\t};\n";
 	}
 
-	static std::string MetaField(const std::string& Name, const MetaData& Meta)
+	static std::string MetaField(const std::string& Member, const MetaData& Meta)
 	{
-		return Meta.GetPairs().empty() ? "" : ", .MetaData = " + Name + "_Meta";
+		return Meta.GetPairs().empty() ? "" : ", .MetaData = " + MetaName(Member);
 	}
 
 	static std::string TypeFields(const PropertyType& Type)
@@ -199,7 +202,7 @@ private:
 	{
 		const std::string Construct = ConstructName(EnumReference, Type.Name);
 		Text += "struct " + Construct + "_Statics\n{\n";
-		WriteMeta("Type", Type.Meta);
+		WriteMeta("", Type.Meta);
 		for (const Enumerator& Each : Type.Enumerators)
 		{
 			WriteMeta(Each.Name, Each.Meta);
@@ -216,7 +219,7 @@ private:
 		}
 		Text += "\tstatic constexpr UECodeGen::FEnumInfo Info{ .Package = " + Quote("/Script/" + Module) + ", .Name = " + Quote(Type.Name) +
 			", .bScoped = " + (Type.bScoped ? "true" : "false") + (Type.Enumerators.empty() ? "" : ", .Enumerators = Enumerators") +
-			MetaField("Type", Type.Meta) + " };\n};\n\n";
+			MetaField("", Type.Meta) + " };\n};\n\n";
 		WriteConstruct(EnumReference, Type.Name);
 		Text += "template <>\nUEnum* StaticEnum<" + Type.Name + ">()\n{\n\treturn " + Construct + "();\n}\n\n";
 		Enums.push_back(Construct);
@@ -236,14 +239,14 @@ private:
 			Type.Name + "), .Alignment = alignof(" + Type.Name + ")";
 		Fields += Type.Super.empty() ? "" : ", .Super = &" + ConstructName(Kind, Type.Super);
 		Fields += Type.Properties.empty() ? "" : ", .Properties = Properties";
-		return Fields + MetaField("Type", Type.Meta);
+		return Fields + MetaField("", Type.Meta);
 	}
 
 	void WriteStruct(const Class& Type)
 	{
 		const std::string Construct = ConstructName(StructReference, Type.Name);
 		Text += "struct " + Construct + "_Statics\n{\n";
-		WriteMeta("Type", Type.Meta);
+		WriteMeta("", Type.Meta);
 		WriteProperties(Type.Name, "", Type.Properties);
 		Text += "\tstatic constexpr UECodeGen::FStructInfo Info{ .Type = { " + TypeInfo(Type, StructReference) +
 			" }, .Ops = &UECodeGen::TStructOps<" + Type.Name + ">::Ops };\n};\n\n";
@@ -255,7 +258,7 @@ private:
 	{
 		const std::string Construct = ConstructName(ClassReference, Type.Name);
 		Text += "struct " + Construct + "_Statics\n{\n";
-		WriteMeta("Type", Type.Meta);
+		WriteMeta("", Type.Meta);
 		WriteProperties(Type.Name, "", Type.Properties);
 		for (const Function& Each : Type.Functions)
 		{

@@ -40,11 +40,11 @@ PropertyType ReadBareType(Cursor& Tokens);
 
 PropertyType ReadArray(Cursor& Tokens, int Line)
 {
-	PropertyType Inner = ReadBareType(Tokens);
-	if (Inner.Kind == "Array")
+	if (Tokens.Peek().Is("TArray"))
 	{
 		throw SourceError(Line, "an array of arrays is not known to reflection");
 	}
+	PropertyType Inner = ReadBareType(Tokens);
 	PropertyType Result{ "Array", "TArray<" + Inner.Cpp + ">", {}, {} };
 	Result.Inner.push_back(std::move(Inner));
 	return Result;

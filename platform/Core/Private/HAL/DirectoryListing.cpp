@@ -3,29 +3,44 @@
 #include <algorithm>
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <memory>
 #include <sys/stat.h>
+#include <time.h>
 
 namespace
 {
+/** Whether a link leads to the directory that it lies in or to one above. */
+bool LeadsBack(const std::string& Directory, const char* Name)
+{
+	std::error_code Error;
+	const std::filesystem::path Here = std::filesystem::canonical(Directory, Error);
+	const std::filesystem::path Target = std::filesystem::canonical(Here / Name, Error);
+	return Error || std::mismatch(Target.begin(), Target.end(), Here.begin(), Here.end()).first == Target.end();
+}
+
 /** DT_REG, DT_DIR or something else. */
-uint8 TypeOf(DIR* Directory, const dirent& Entry)
+uint8 TypeOf(DIR* Handle, const dirent& Entry, const std::string& Directory)
 {
 	if (Entry.d_type != DT_UNKNOWN && Entry.d_type != DT_LNK)
 	{
 		return Entry.d_type;
 	}
 	struct stat Stat;
-	if (::fstatat(::dirfd(Directory), Entry.d_name, &Stat, 0) != 0)
+	if (::fstatat(::dirfd(Handle), Entry.d_name, &Stat, 0) != 0)
 	{
 		return DT_UNKNOWN;
 	}
-	return S_ISDIR(Stat.st_mode) ? DT_DIR : (S_ISREG(Stat.st_mode) ? DT_REG : DT_UNKNOWN);
+	if (S_ISDIR(Stat.st_mode))
+	{
+		return Entry.d_type == DT_LNK && LeadsBack(Directory, Entry.d_name) ? DT_UNKNOWN : DT_DIR;
+	}
+	return S_ISREG(Stat.st_mode) ? DT_REG : DT_UNKNOWN;
 }
 
-bool Has(EListed Wanted, EListed Kind)
+int64 ToNanoseconds(const timespec& Time)
 {
-	return (static_cast<uint8>(Wanted) & static_cast<uint8>(Kind)) != 0;
+	return static_cast<int64>(Time.tv_sec) * 1'000'000'000 + Time.tv_nsec;
 }
 
 bool IsSelfOrParent(std::string_view Name)
@@ -53,17 +68,8 @@ std::vector<std::string_view> SortedNames(const std::string& Names, const std::v
 }
 }
 
-FDirectoryListing::FDirectoryListing(const std::string& Path, EListed Wanted)
-{
-	Read(Path, Wanted, nullptr);
-}
-
-FDirectoryListing::FDirectoryListing(const std::string& Path, EListed Wanted, FDirectoryIdentity& OutIdentity)
-{
-	Read(Path, Wanted, &OutIdentity);
-}
-
-void FDirectoryListing::Read(const std::string& Path, EListed Wanted, FDirectoryIdentity* OutIdentity)
+FDirectoryListing::FDirectoryListing(const std::string& InPath)
+	: Path(InPath)
 {
 	const std::unique_ptr<DIR, int (*)(DIR*)> Directory(::opendir(Path.c_str()), &::closedir);
 	if (!Directory)
@@ -71,26 +77,43 @@ void FDirectoryListing::Read(const std::string& Path, EListed Wanted, FDirectory
 		return;
 	}
 	bValid = true;
-	struct stat Stat;
-	if (OutIdentity && ::fstat(::dirfd(Directory.get()), &Stat) == 0)
-	{
-		*OutIdentity = { Stat.st_dev, Stat.st_ino };
-	}
+	NoteState(::dirfd(Directory.get()));
 
 	std::vector<FPlace> FilePlaces;
 	std::vector<FPlace> DirectoryPlaces;
 	while (const dirent* Entry = ::readdir(Directory.get()))
 	{
 		const std::string_view Name(Entry->d_name);
-		const uint8 Type = TypeOf(Directory.get(), *Entry);
-		const bool bFile = Type == DT_REG && Has(Wanted, EListed::Files);
-		const bool bDirectory = Type == DT_DIR && Has(Wanted, EListed::Directories) && !IsSelfOrParent(Name);
-		if (bFile || bDirectory)
+		const uint8 Type = TypeOf(Directory.get(), *Entry, Path);
+		const bool bDirectory = Type == DT_DIR && !IsSelfOrParent(Name);
+		if (Type == DT_REG || bDirectory)
 		{
-			(bFile ? FilePlaces : DirectoryPlaces).push_back({ Names.size(), Name.size() });
+			(bDirectory ? DirectoryPlaces : FilePlaces).push_back({ Names.size(), Name.size() });
 			Names += Name;
 		}
 	}
 	Files = SortedNames(Names, FilePlaces);
 	Directories = SortedNames(Names, DirectoryPlaces);
+}
+
+void FDirectoryListing::NoteState(int Descriptor)
+{
+	struct stat Stat;
+	timespec Now;
+	if (::fstat(Descriptor, &Stat) != 0 || ::clock_gettime(CLOCK_REALTIME, &Now) != 0)
+	{
+		return;
+	}
+	Identity = { Stat.st_dev, Stat.st_ino };
+	// File systems stamp changes with a clock that ticks every few milliseconds: two changes in one tick look alike.
+	constexpr int64 Settled = 100'000'000;
+	const int64 Stamp = ToNanoseconds(Stat.st_mtim);
+	ChangedAt = ToNanoseconds(Now) - Stamp > Settled ? Stamp : 0;
+}
+
+bool FDirectoryListing::IsCurrent(const std::string& OtherPath) const
+{
+	struct stat Stat;
+	return Path == OtherPath && ChangedAt != 0 && ::stat(Path.c_str(), &Stat) == 0 && Identity == FDirectoryIdentity{ Stat.st_dev, Stat.st_ino }
+		&& ToNanoseconds(Stat.st_mtim) == ChangedAt;
 }

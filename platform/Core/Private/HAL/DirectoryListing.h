@@ -7,13 +7,6 @@
 #include <sys/types.h>
 #include <vector>
 
-enum class EListed : uint8
-{
-	Files = 1,
-	Directories = 2,
-	Both = 3
-};
-
 /** Which directory a path leads to, whatever links are on the way. */
 struct FDirectoryIdentity
 {
@@ -24,27 +17,33 @@ struct FDirectoryIdentity
 
 /**
  * The names in one directory, in byte order, "." and ".." left out. One pass over the directory; the file system is asked about an
- * entry only when the directory itself does not tell what it is. What is neither a file nor a directory is left out.
+ * entry only when the directory itself does not tell what it is. What is neither a file nor a directory is left out, and so is a
+ * link to the directory itself or to one above it: whoever walks down would never come to an end.
  */
 class FDirectoryListing
 {
 public:
-	/** Without an identity, for those who don't descend. */
-	FDirectoryListing(const std::string& Path, EListed Wanted);
-	/** OutIdentity is left alone when the directory can't be read. */
-	FDirectoryListing(const std::string& Path, EListed Wanted, FDirectoryIdentity& OutIdentity);
+	explicit FDirectoryListing(const std::string& InPath);
+	UE_NONCOPYABLE(FDirectoryListing)
 
 	/** False when there is no such directory or it can't be read. */
 	bool IsValid() const { return bValid; }
+	/** Whether it is this path's, and another listing would certainly be the same. */
+	bool IsCurrent(const std::string& OtherPath) const;
+	const FDirectoryIdentity& GetIdentity() const { return Identity; }
 	/** The names live as long as the listing. */
 	const std::vector<std::string_view>& GetFiles() const { return Files; }
 	const std::vector<std::string_view>& GetDirectories() const { return Directories; }
 
 private:
-	void Read(const std::string& Path, EListed Wanted, FDirectoryIdentity* OutIdentity);
+	void NoteState(int Descriptor);
 
+	std::string Path;
 	std::string Names;
 	std::vector<std::string_view> Files;
 	std::vector<std::string_view> Directories;
+	FDirectoryIdentity Identity;
+	/** When the directory last changed; 0 when that was too short a time ago for a further change to be told from it. */
+	int64 ChangedAt = 0;
 	bool bValid = false;
 };

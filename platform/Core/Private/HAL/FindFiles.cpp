@@ -6,18 +6,25 @@
 #include "HAL/PlatformFileManager.h"
 #include "Misc/Paths.h"
 
+#include <memory>
 #include <vector>
 
 namespace
 {
-EListed Wanted(bool bFiles, bool bDirectories)
-{
-	return bFiles ? (bDirectories ? EListed::Both : EListed::Files) : EListed::Directories;
-}
-
 std::string NativeDirectory(const FString& Directory)
 {
 	return Directory.IsEmpty() ? "." : NativePath(*Directory);
+}
+
+/** Keeps the newest listing: who wants a directory's files asks for its directories next, or the other way round. */
+std::shared_ptr<const FDirectoryListing> GetListing(const std::string& Path)
+{
+	thread_local std::shared_ptr<const FDirectoryListing> Newest;
+	if (!Newest || !Newest->IsCurrent(Path))
+	{
+		Newest = std::make_shared<const FDirectoryListing>(Path);
+	}
+	return Newest;
 }
 
 /** A pattern of file names with "*" and "?", which ignores case; "*" and "*.*" fit every name. */
@@ -33,6 +40,7 @@ public:
 	/** Adds those names that fit, behind Prefix. */
 	void AddFitting(TArray<FString>& Out, const std::vector<std::string_view>& Names, const FString& Prefix) const
 	{
+		Out.Reserve(Out.Num() + (bAny ? static_cast<int32>(Names.size()) : 0));
 		for (const std::string_view Name : Names)
 		{
 			if (bAny || FUtf8::Decode(Name).MatchesWildcard(Pattern))
@@ -65,10 +73,9 @@ public:
 	/** @param Directory ends with "/" */
 	void Search(const FString& Directory)
 	{
-		FDirectoryIdentity Identity;
-		const FDirectoryListing Listing(NativeDirectory(Directory), Wanted(bFiles, true), Identity);
-		// A link may lead back to a directory that the walk is in.
-		if (!Listing.IsValid() || std::find(Path.begin(), Path.end(), Identity) != Path.end())
+		const FDirectoryListing Listing(NativeDirectory(Directory));
+		// Two links may lead to each other's directories.
+		if (!Listing.IsValid() || std::find(Path.begin(), Path.end(), Listing.GetIdentity()) != Path.end())
 		{
 			return;
 		}
@@ -80,7 +87,7 @@ public:
 		{
 			Pattern.AddFitting(Found, Listing.GetDirectories(), Directory);
 		}
-		Path.push_back(Identity);
+		Path.push_back(Listing.GetIdentity());
 		for (const std::string_view Name : Listing.GetDirectories())
 		{
 			FString Child = Directory;
@@ -101,14 +108,16 @@ private:
 
 void IFileManager::FindFiles(TArray<FString>& FileNames, const TCHAR* Filename, bool bFiles, bool bDirectories)
 {
-	if (!bFiles && !bDirectories)
-	{
-		return;
-	}
 	const FNamePattern Pattern(FPaths::GetCleanFilename(Filename));
-	const FDirectoryListing Listing(NativeDirectory(FPaths::GetPath(Filename)), Wanted(bFiles, bDirectories));
-	Pattern.AddFitting(FileNames, Listing.GetFiles(), FString());
-	Pattern.AddFitting(FileNames, Listing.GetDirectories(), FString());
+	const std::shared_ptr<const FDirectoryListing> Listing = GetListing(NativeDirectory(FPaths::GetPath(Filename)));
+	if (bFiles)
+	{
+		Pattern.AddFitting(FileNames, Listing->GetFiles(), FString());
+	}
+	if (bDirectories)
+	{
+		Pattern.AddFitting(FileNames, Listing->GetDirectories(), FString());
+	}
 }
 
 void IFileManager::FindFilesRecursive(
@@ -125,7 +134,7 @@ void IFileManager::FindFilesRecursive(
 
 bool IPlatformFile::IterateDirectory(const TCHAR* Directory, FDirectoryVisitorFunc Visitor)
 {
-	const FDirectoryListing Listing(NativeDirectory(Directory), EListed::Both);
+	const FDirectoryListing Listing((NativeDirectory(Directory)));
 	const auto Visit = [&](const std::vector<std::string_view>& Names, bool bIsDirectory)
 	{
 		return std::all_of(Names.begin(), Names.end(),

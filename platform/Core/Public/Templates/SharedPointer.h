@@ -57,6 +57,13 @@ public:
 		: Owner(Other.Owner)
 	{
 	}
+	/** Takes the reference over, which must not be used any more. */
+	template <typename U>
+		requires std::is_convertible_v<U*, T*>
+	TSharedPtr(TSharedRef<U, Mode>&& Other)
+		: Owner(std::move(Other.Owner))
+	{
+	}
 	template <typename U>
 		requires std::is_convertible_v<U*, T*>
 	TSharedPtr(TRawShareable<U>&& Raw)

@@ -4,6 +4,7 @@
 
 #include "Containers/EnumAsByte.h"
 #include "CoreMinimal.h"
+#include "Misc/EnumClassFlags.h"
 
 class FObjectInitializer;
 class UClass;
@@ -30,28 +31,6 @@ class UScriptStruct;
 template <typename EnumType>
 UEnum* StaticEnum();
 
-#define UE_FLAG_OPERATORS(Enum)                                                                                                            \
-	constexpr Enum operator|(Enum A, Enum B)                                                                                               \
-	{                                                                                                                                      \
-		return static_cast<Enum>(static_cast<std::underlying_type_t<Enum>>(A) | static_cast<std::underlying_type_t<Enum>>(B));             \
-	}                                                                                                                                      \
-	constexpr Enum operator&(Enum A, Enum B)                                                                                               \
-	{                                                                                                                                      \
-		return static_cast<Enum>(static_cast<std::underlying_type_t<Enum>>(A) & static_cast<std::underlying_type_t<Enum>>(B));             \
-	}                                                                                                                                      \
-	constexpr Enum operator~(Enum A)                                                                                                       \
-	{                                                                                                                                      \
-		return static_cast<Enum>(~static_cast<std::underlying_type_t<Enum>>(A));                                                           \
-	}                                                                                                                                      \
-	constexpr Enum& operator|=(Enum& A, Enum B)                                                                                            \
-	{                                                                                                                                      \
-		return A = A | B;                                                                                                                  \
-	}                                                                                                                                      \
-	constexpr Enum& operator&=(Enum& A, Enum B)                                                                                            \
-	{                                                                                                                                      \
-		return A = A & B;                                                                                                                  \
-	}
-
 enum EObjectFlags : uint32
 {
 	RF_NoFlags = 0x00000000,
@@ -64,7 +43,7 @@ enum EObjectFlags : uint32
 	RF_ClassDefaultObject = 0x00000010,
 	RF_Transient = 0x00000040,
 };
-UE_FLAG_OPERATORS(EObjectFlags)
+ENUM_CLASS_FLAGS(EObjectFlags)
 
 enum EClassFlags : uint32
 {
@@ -88,7 +67,7 @@ enum EClassFlags : uint32
 	CLASS_Inherit = CLASS_DefaultConfig | CLASS_Config | CLASS_Transient | CLASS_NotPlaceable | CLASS_EditInlineNew | CLASS_Const |
 		CLASS_DefaultToInstanced | CLASS_Deprecated,
 };
-UE_FLAG_OPERATORS(EClassFlags)
+ENUM_CLASS_FLAGS(EClassFlags)
 
 enum EFunctionFlags : uint32
 {
@@ -105,7 +84,7 @@ enum EFunctionFlags : uint32
 	FUNC_BlueprintPure = 0x10000000,
 	FUNC_Const = 0x40000000,
 };
-UE_FLAG_OPERATORS(EFunctionFlags)
+ENUM_CLASS_FLAGS(EFunctionFlags)
 
 enum EPropertyFlags : uint64
 {
@@ -139,7 +118,7 @@ enum EPropertyFlags : uint64
 	CPF_AdvancedDisplay = 0x0000040000000000,
 	CPF_ExposeOnSpawn = 0x0001000000000000,
 };
-UE_FLAG_OPERATORS(EPropertyFlags)
+ENUM_CLASS_FLAGS(EPropertyFlags)
 
 /** How a value is written as text and read. */
 enum EPropertyPortFlags : uint32

@@ -1,6 +1,7 @@
 #include "Serialization/JsonReader.h"
 
 #include "Dom/JsonObject.h"
+#include "PlainText.h"
 
 #include <charconv>
 
@@ -23,6 +24,45 @@ int32 HexValue(TCHAR Char)
 /** 10 to the powers that a double holds exactly. */
 constexpr double ExactPowers[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17,
 	1e18, 1e19, 1e20, 1e21, 1e22 };
+
+/**
+ * Values never change, so equal ones may be one: the words, and short texts that come again soon, such as the "#" of a file tree
+ * and the types of a list's items.
+ */
+class FSharedValues
+{
+public:
+	const TSharedPtr<FJsonValue>& Boolean(bool bValue) const { return bValue ? True : False; }
+	const TSharedPtr<FJsonValue>& Null() const { return Nothing; }
+
+	TSharedPtr<FJsonValue> String(FString&& Text)
+	{
+		if (Text.Len() > LongestShared)
+		{
+			return MakeShared<FJsonValueString>(MoveTemp(Text));
+		}
+		TSharedPtr<FJsonValueString>& Recent = Recents[SlotOf(Text.View())];
+		if (!Recent.IsValid() || !Recent->Get().Equals(Text))
+		{
+			Recent = MakeShared<FJsonValueString>(MoveTemp(Text));
+		}
+		return Recent;
+	}
+
+private:
+	static constexpr int32 LongestShared = 16;
+	static constexpr SIZE_T Slots = 32;
+
+	static SIZE_T SlotOf(std::u16string_view Text)
+	{
+		return Text.empty() ? 0 : (Text.size() * 7 + Text.front() * 3u + Text.back()) % Slots;
+	}
+
+	const TSharedPtr<FJsonValue> True = MakeShared<FJsonValueBoolean>(true);
+	const TSharedPtr<FJsonValue> False = MakeShared<FJsonValueBoolean>(false);
+	const TSharedPtr<FJsonValue> Nothing = MakeShared<FJsonValueNull>();
+	TSharedPtr<FJsonValueString> Recents[Slots];
+};
 
 /** One pass over the text; the first error ends it. The text ends in a zero, which no rule accepts. */
 class FParser
@@ -114,14 +154,14 @@ private:
 		case '"':
 		{
 			FString Text;
-			return ReadString(Text) ? TSharedPtr<FJsonValue>(MakeShared<FJsonValueString>(MoveTemp(Text))) : nullptr;
+			return ReadString(Text) ? Shared.String(MoveTemp(Text)) : nullptr;
 		}
 		case 't':
-		case 'T': return ReadWord(u"true", [] { return MakeShared<FJsonValueBoolean>(true); });
+		case 'T': return ReadWord(u"true", Shared.Boolean(true));
 		case 'f':
-		case 'F': return ReadWord(u"false", [] { return MakeShared<FJsonValueBoolean>(false); });
+		case 'F': return ReadWord(u"false", Shared.Boolean(false));
 		case 'n':
-		case 'N': return ReadWord(u"null", [] { return MakeShared<FJsonValueNull>(); });
+		case 'N': return ReadWord(u"null", Shared.Null());
 		default: return ReadNumber();
 		}
 	}
@@ -141,10 +181,10 @@ private:
 
 	TSharedPtr<FJsonValue> ReadObject()
 	{
-		const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+		const int32 First = Fields.Num();
 		if (Take('}'))
 		{
-			return MakeShared<FJsonValueObject>(Object);
+			return MakeObject(First);
 		}
 		do
 		{
@@ -167,21 +207,34 @@ private:
 			{
 				return nullptr;
 			}
-			Object->Values.Add(MoveTemp(Key), MoveTemp(Value));
+			Fields.Add({ MoveTemp(Key), MoveTemp(Value) });
 		} while (Take(','));
 		if (!Take('}'))
 		{
 			return Fail(TEXT("Close Curly Brace token expected, but not found."));
 		}
-		return MakeShared<FJsonValueObject>(Object);
+		return MakeObject(First);
+	}
+
+	/** Takes the fields from First on. */
+	TSharedPtr<FJsonValue> MakeObject(int32 First)
+	{
+		TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+		Object->Values.Reserve(Fields.Num() - First);
+		for (int32 Index = First; Index < Fields.Num(); ++Index)
+		{
+			Object->Values.Add(MoveTemp(Fields[Index].Key), MoveTemp(Fields[Index].Value));
+		}
+		Fields.SetNum(First);
+		return MakeShared<FJsonValueObject>(MoveTemp(Object));
 	}
 
 	TSharedPtr<FJsonValue> ReadArray()
 	{
-		TArray<TSharedPtr<FJsonValue>> Items;
+		const int32 First = Items.Num();
 		if (Take(']'))
 		{
-			return MakeShared<FJsonValueArray>(MoveTemp(Items));
+			return MakeArray(First);
 		}
 		do
 		{
@@ -196,11 +249,23 @@ private:
 		{
 			return Fail(TEXT("Close Square Brace token expected, but not found."));
 		}
-		return MakeShared<FJsonValueArray>(MoveTemp(Items));
+		return MakeArray(First);
 	}
 
-	template <typename MakeType>
-	TSharedPtr<FJsonValue> ReadWord(std::u16string_view Word, MakeType Make)
+	/** Takes the items from First on. */
+	TSharedPtr<FJsonValue> MakeArray(int32 First)
+	{
+		TArray<TSharedPtr<FJsonValue>> Array;
+		Array.Reserve(Items.Num() - First);
+		for (int32 Index = First; Index < Items.Num(); ++Index)
+		{
+			Array.Add(MoveTemp(Items[Index]));
+		}
+		Items.SetNum(First);
+		return MakeShared<FJsonValueArray>(MoveTemp(Array));
+	}
+
+	TSharedPtr<FJsonValue> ReadWord(std::u16string_view Word, const TSharedPtr<FJsonValue>& Value)
 	{
 		const std::u16string_view Rest(At, static_cast<SIZE_T>(End - At));
 		if (!FString::EqualsIgnoringCase(Rest.substr(0, Word.size()), Word))
@@ -208,7 +273,7 @@ private:
 			return Fail(TEXT("Invalid Json Token."));
 		}
 		At += Word.size();
-		return Make();
+		return Value;
 	}
 
 	bool ReadString(FString& Out)
@@ -245,9 +310,9 @@ private:
 
 	void SkipPlain()
 	{
-		while (At != End && *At != '"' && *At != '\\')
+		// A control character stands for itself.
+		for (At = FindSpecial(At, End); At != End && *At < 0x20; At = FindSpecial(At + 1, End))
 		{
-			++At;
 		}
 	}
 
@@ -354,6 +419,10 @@ private:
 	const TCHAR* At;
 	const TCHAR* Error = nullptr;
 	int32 Depth = 0;
+	FSharedValues Shared;
+	// What the open objects and arrays hold so far, innermost last: each is made in one piece when it closes.
+	TArray<TPair<FString, TSharedPtr<FJsonValue>>> Fields;
+	TArray<TSharedPtr<FJsonValue>> Items;
 };
 }
 

@@ -1,3 +1,4 @@
+#include "PlainText.h"
 #include "Serialization/JsonWriter.h"
 
 #include <charconv>
@@ -20,11 +21,6 @@ constexpr char EscapeOf(TCHAR Char)
 	default: return Char < 0x20 ? 'u' : 0;
 	}
 }
-
-bool IsPlain(TCHAR Char)
-{
-	return Char >= 0x20 && Char != '"' && Char != '\\';
-}
 }
 
 void FJsonText::AppendString(FString& Out, const FString& Text)
@@ -36,11 +32,8 @@ void FJsonText::AppendString(FString& Out, const FString& Text)
 	while (At != End)
 	{
 		const TCHAR* const Run = At;
-		while (At != End && IsPlain(*At))
-		{
-			++At;
-		}
-		To.append(Run, At);
+		At = FindSpecial(At, End);
+		To.append(Run, static_cast<SIZE_T>(At - Run));
 		if (At == End)
 		{
 			break;
@@ -76,5 +69,7 @@ void FJsonText::AppendNumber(FString& Out, double Number)
 	{
 		Written = std::to_chars(Buffer, Buffer + sizeof(Buffer), Number, std::chars_format::general, 17);
 	}
-	Out.Native().append(Buffer, Written.ptr);
+	TCHAR Wide[sizeof(Buffer)];
+	const SIZE_T Length = static_cast<SIZE_T>(std::copy(Buffer, Written.ptr, Wide) - Wide);
+	Out.Native().append(Wide, Length);
 }

@@ -20,7 +20,7 @@ enum class EJson
 	Object
 };
 
-/** One value. The As... operations log an error (LogJson) and give an empty value where TryGet... answers false. */
+/** One value, which never changes. The As... operations log an error (LogJson) and give an empty value where TryGet... answers false. */
 class JSON_API FJsonValue
 {
 public:
@@ -119,6 +119,7 @@ public:
 	{
 	}
 	bool TryGetArray(const TArray<TSharedPtr<FJsonValue>>*& OutArray) const override;
+	const TArray<TSharedPtr<FJsonValue>>& Get() const { return Value; }
 
 private:
 	TArray<TSharedPtr<FJsonValue>> Value;
@@ -133,6 +134,7 @@ public:
 	{
 	}
 	bool TryGetObject(const TSharedPtr<FJsonObject>*& OutObject) const override;
+	const TSharedPtr<FJsonObject>& Get() const { return Value; }
 
 private:
 	TSharedPtr<FJsonObject> Value;

@@ -15,10 +15,17 @@ class JSON_API TJsonReader<TCHAR>
 public:
 	static constexpr int32 MaxDepth = 1024;
 
-	explicit TJsonReader(FString InText)
-		: Text(MoveTemp(InText))
+	/** The text must outlive the reader. */
+	explicit TJsonReader(const FString& InText)
+		: Text(InText)
 	{
 	}
+	explicit TJsonReader(FString&& InText)
+		: OwnText(MoveTemp(InText))
+		, Text(OwnText)
+	{
+	}
+	UE_NONCOPYABLE(TJsonReader)
 
 	/** Reads the whole text; null, with an error message, when it is no JSON document. */
 	TSharedPtr<FJsonValue> Read();
@@ -26,12 +33,15 @@ public:
 	const FString& GetErrorMessage() const { return ErrorMessage; }
 
 private:
-	FString Text;
+	FString OwnText;
+	const FString& Text;
 	FString ErrorMessage;
 };
 
 template <typename CharType = TCHAR>
 struct TJsonReaderFactory
 {
-	static TSharedRef<TJsonReader<CharType>> Create(FString Text) { return MakeShared<TJsonReader<CharType>>(MoveTemp(Text)); }
+	/** A text that is not handed over must outlive the reader. */
+	static TSharedRef<TJsonReader<CharType>> Create(const FString& Text) { return MakeShared<TJsonReader<CharType>>(Text); }
+	static TSharedRef<TJsonReader<CharType>> Create(FString&& Text) { return MakeShared<TJsonReader<CharType>>(MoveTemp(Text)); }
 };

@@ -66,12 +66,12 @@ private:
 		case EJson::Boolean: Writer.WriteValue(Identifier..., Value->AsBool()); break;
 		case EJson::Array:
 			Writer.WriteArrayStart(Identifier...);
-			WriteItems(Value->AsArray(), Writer);
+			WriteItems(static_cast<const FJsonValueArray*>(Value)->Get(), Writer);
 			Writer.WriteArrayEnd();
 			break;
 		case EJson::Object:
 			Writer.WriteObjectStart(Identifier...);
-			WriteFields(*Value->AsObject(), Writer);
+			WriteFields(*static_cast<const FJsonValueObject*>(Value)->Get(), Writer);
 			Writer.WriteObjectEnd();
 			break;
 		default: Writer.WriteNull(Identifier...); break;

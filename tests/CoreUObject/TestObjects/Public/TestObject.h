@@ -68,6 +68,7 @@ public:
 	UPROPERTY()
 	UTestOther* Raw = nullptr;
 
+	/** Named as generated code might name something of its own. */
 	UPROPERTY()
 	TSubclassOf<UTestObject> Type;
 

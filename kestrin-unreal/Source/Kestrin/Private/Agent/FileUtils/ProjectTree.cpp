@@ -114,11 +114,12 @@ TSharedPtr<FJsonObject> FFileUtils::BuildJsonTree(const FString& DirectoryPath, 
 
 	// Values don't change: all files may share one.
 	static const TSharedRef<FJsonValue> FileMark = MakeShared<FJsonValueString>(TEXT("#"));
-	for (const FString& File : Files)
+	Tree->Values.Reserve(Files.Num());
+	for (FString& File : Files)
 	{
 		if (SupportedExtensions.Contains(FPaths::GetExtension(File)))
 		{
-			Tree->SetField(File, FileMark);
+			Tree->Values.Add(MoveTemp(File), FileMark);
 		}
 	}
 	for (const FString& Directory : Directories)
