@@ -81,9 +81,14 @@ private:
 			Conversion.Head += '.';
 			Conversion.Precision = ReadNumber(Conversion);
 		}
-		for (; IsOneOf(*At, "hljztqLI"); ++At)
+		for (; IsOneOf(*At, "hljzt"); ++At)
 		{
 			Conversion.Length += static_cast<char>(*At);
+		}
+		if (At[0] == 'I' && At[1] == '6' && At[2] == '4')
+		{
+			At += 3;
+			Conversion.Length = "ll";
 		}
 		Conversion.Kind = static_cast<char>(*At);
 		if (*At)
@@ -148,7 +153,7 @@ private:
 	void ConvertInteger(const FConversion& Conversion)
 	{
 		const std::string& Length = Conversion.Length;
-		const bool bLong = Length == "l" || Length == "ll" || Length == "z" || Length == "j" || Length == "t" || Length == "I";
+		const bool bLong = Length == "l" || Length == "ll" || Length == "z" || Length == "j" || Length == "t";
 		if (bLong)
 		{
 			ConvertNumber(Conversion, "ll", va_arg(Arguments, long long));

@@ -184,7 +184,20 @@ bool FString::Equals(const FString& Other, ESearchCase::Type SearchCase) const
 
 int32 FString::Compare(const FString& Other, ESearchCase::Type SearchCase) const
 {
-	return SearchCase == ESearchCase::IgnoreCase ? FCString::Stricmp(**this, *Other) : Data.compare(Other.Data);
+	if (SearchCase == ESearchCase::CaseSensitive)
+	{
+		return Data.compare(Other.Data);
+	}
+	const SIZE_T Both = std::min(Data.size(), Other.Data.size());
+	for (SIZE_T Index = 0; Index < Both; ++Index)
+	{
+		const int32 Difference = FChar::ToLower(Data[Index]) - FChar::ToLower(Other.Data[Index]);
+		if (Difference != 0)
+		{
+			return Difference;
+		}
+	}
+	return Len() - Other.Len();
 }
 
 int32 FString::Find(
@@ -388,14 +401,16 @@ bool FString::Split(
 	{
 		return false;
 	}
-	const FString Whole(*this);
+	// The results may go to this text or to the separator.
+	FString Before = Left(Place);
+	FString Behind = RightChop(Place + Separator.Len());
 	if (OutLeft)
 	{
-		*OutLeft = Whole.Left(Place);
+		*OutLeft = MoveTemp(Before);
 	}
 	if (OutRight)
 	{
-		*OutRight = Whole.RightChop(Place + Separator.Len());
+		*OutRight = MoveTemp(Behind);
 	}
 	return true;
 }

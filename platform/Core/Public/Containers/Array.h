@@ -37,18 +37,16 @@ public:
 	{
 		if (this != &Other)
 		{
-			Reset();
-			Append(Other.Data, Other.ArrayNum);
+			// Other may lie in one of the elements that go.
+			TArray Kept(Other);
+			Exchange(Kept);
 		}
 		return *this;
 	}
 	TArray& operator=(TArray&& Other) noexcept
 	{
-		if (this != &Other)
-		{
-			Free();
-			TakeFrom(Other);
-		}
+		TArray Kept(MoveTemp(Other));
+		Exchange(Kept);
 		return *this;
 	}
 	TArray& operator=(std::initializer_list<T> List)
@@ -160,7 +158,11 @@ public:
 
 	void RemoveAt(int32 Index, int32 Count = 1)
 	{
-		check(Index >= 0 && Count >= 0 && Index + Count <= ArrayNum);
+		check(Index >= 0 && Count >= 0 && Count <= ArrayNum - Index);
+		if (Count == 0)
+		{
+			return; // elements may not be moved onto themselves
+		}
 		std::move(Data + Index + Count, Data + ArrayNum, Data + Index);
 		Shrink(ArrayNum - Count);
 	}
@@ -339,6 +341,13 @@ private:
 		::operator delete(Data, std::align_val_t(alignof(T)));
 		Data = nullptr;
 		ArrayMax = 0;
+	}
+
+	void Exchange(TArray& Other)
+	{
+		std::swap(Data, Other.Data);
+		std::swap(ArrayNum, Other.ArrayNum);
+		std::swap(ArrayMax, Other.ArrayMax);
 	}
 
 	void TakeFrom(TArray& Other)

@@ -50,48 +50,29 @@ public:
 		return Found ? *Found : this->AddNew(GetTypeHash(Key), { Key, V() }).Value;
 	}
 
-	template <typename KeyType>
-	V* Find(const KeyType& Key)
+	V* Find(const K& Key)
 	{
 		ElementType* const Found = this->FindElement(Key);
 		return Found ? &Found->Value : nullptr;
 	}
-	template <typename KeyType>
-	const V* Find(const KeyType& Key) const
-	{
-		return const_cast<TMap*>(this)->Find(Key);
-	}
+	const V* Find(const K& Key) const { return const_cast<TMap*>(this)->Find(Key); }
 	/** @return a copy of the value, or a default one */
-	template <typename KeyType>
-	V FindRef(const KeyType& Key) const
+	V FindRef(const K& Key) const
 	{
 		const V* const Found = Find(Key);
 		return Found ? *Found : V();
 	}
-	template <typename KeyType>
-	bool Contains(const KeyType& Key) const
-	{
-		return Find(Key) != nullptr;
-	}
+	bool Contains(const K& Key) const { return Find(Key) != nullptr; }
 	/** The key must be there. */
-	template <typename KeyType>
-	V& operator[](const KeyType& Key)
+	V& operator[](const K& Key)
 	{
 		V* const Found = Find(Key);
 		check(Found);
 		return *Found;
 	}
-	template <typename KeyType>
-	const V& operator[](const KeyType& Key) const
-	{
-		return const_cast<TMap&>(*this)[Key];
-	}
+	const V& operator[](const K& Key) const { return const_cast<TMap&>(*this)[Key]; }
 	/** @return how many were removed: 0 or 1 */
-	template <typename KeyType>
-	int32 Remove(const KeyType& Key)
-	{
-		return this->RemoveElement(Key);
-	}
+	int32 Remove(const K& Key) { return this->RemoveElement(Key); }
 
 	/** Empties Out first. @return how many keys */
 	int32 GetKeys(TArray<K>& Out) const

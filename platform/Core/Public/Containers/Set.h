@@ -23,22 +23,10 @@ public:
 	}
 
 	void Add(T Item) { this->PutElement(MoveTemp(Item)); }
-	template <typename KeyType>
-	bool Contains(const KeyType& Key) const
-	{
-		return Find(Key) != nullptr;
-	}
-	template <typename KeyType>
-	const T* Find(const KeyType& Key) const
-	{
-		return const_cast<TSet*>(this)->FindElement(Key);
-	}
+	bool Contains(const T& Key) const { return Find(Key) != nullptr; }
+	const T* Find(const T& Key) const { return const_cast<TSet*>(this)->FindElement(Key); }
 	/** @return how many were removed: 0 or 1 */
-	template <typename KeyType>
-	int32 Remove(const KeyType& Key)
-	{
-		return this->RemoveElement(Key);
-	}
+	int32 Remove(const T& Key) { return this->RemoveElement(Key); }
 	TArray<T> Array() const
 	{
 		TArray<T> Result;

@@ -8,6 +8,7 @@
 #include "Templates/SharedPointer.h"
 
 #include <atomic>
+#include <optional>
 #include <tuple>
 
 /** Names one binding. */
@@ -45,7 +46,7 @@ public:
 	template <typename FunctorType, typename... VarTypes>
 	static TDelegate CreateLambda(FunctorType&& Functor, VarTypes&&... Vars)
 	{
-		return Make(nullptr, nullptr,
+		return Make(nullptr, std::nullopt,
 			[Functor = std::decay_t<FunctorType>(std::forward<FunctorType>(Functor)),
 				Stored = std::tuple<std::decay_t<VarTypes>...>(std::forward<VarTypes>(Vars)...)](ParamTypes... Params) mutable -> RetType {
 				return std::apply([&](auto&... Each) -> RetType { return Functor(std::forward<ParamTypes>(Params)..., Each...); }, Stored);
@@ -60,13 +61,12 @@ public:
 	template <typename ObjectType, typename MethodType, typename... VarTypes>
 	static TDelegate CreateRaw(ObjectType* Object, MethodType Method, VarTypes&&... Vars)
 	{
-		return CreateMember(Object, nullptr, Method, std::forward<VarTypes>(Vars)...);
+		return CreateMember(Object, std::nullopt, Method, std::forward<VarTypes>(Vars)...);
 	}
 	template <typename ObjectType, typename MethodType, typename... VarTypes>
 	static TDelegate CreateSP(const TSharedRef<ObjectType>& Object, MethodType Method, VarTypes&&... Vars)
 	{
-		TWeakPtr<ObjectType> Weak = Object;
-		return CreateMember(&Object.Get(), [Weak] { return Weak.IsValid(); }, Method, std::forward<VarTypes>(Vars)...);
+		return CreateMember(&Object.Get(), FOwner(Object), Method, std::forward<VarTypes>(Vars)...);
 	}
 	template <typename ObjectType, typename MethodType, typename... VarTypes>
 	static TDelegate CreateSP(ObjectType* Object, MethodType Method, VarTypes&&... Vars)
@@ -96,20 +96,20 @@ public:
 	}
 	void Unbind() { Binding.reset(); }
 
-	bool IsBound() const { return Binding && (!Binding->IsAlive || Binding->IsAlive()); }
+	bool IsBound() const { return Binding && (!Binding->Owner || Binding->Owner->IsValid()); }
 	bool IsBoundToObject(const void* Object) const { return Binding && Binding->Object == Object; }
 	FDelegateHandle GetHandle() const { return Binding ? Binding->Handle : FDelegateHandle(); }
 
-	/** The delegate must be bound. It may be rebound or unbound from inside the call. */
+	/** The delegate must be bound. Inside the call it may be rebound or unbound, and its shared object may lose its last other owner. */
 	RetType Execute(ParamTypes... Params) const
 	{
 		check(IsBound());
 		const std::shared_ptr<FBinding> Kept = Binding;
+		const TSharedPtr<const void> KeptOwner = Kept->Owner ? Kept->Owner->Pin() : nullptr;
 		return Kept->Function(std::forward<ParamTypes>(Params)...);
 	}
 	/** @return whether there was something to call */
-	bool ExecuteIfBound(ParamTypes... Params) const
-		requires std::is_void_v<RetType>
+	bool ExecuteIfBound(ParamTypes... Params) const requires std::is_void_v<RetType>
 	{
 		if (!IsBound())
 		{
@@ -120,18 +120,21 @@ public:
 	}
 
 private:
+	/** The shared object that the function is called on; none for a function that no object's life bounds. */
+	using FOwner = std::optional<TWeakPtr<const void>>;
+
 	struct FBinding
 	{
 		const void* Object;
-		std::function<bool()> IsAlive;
+		FOwner Owner;
 		std::function<RetType(ParamTypes...)> Function;
 		FDelegateHandle Handle{ FDelegateHandle::GenerateNewHandle };
 	};
 
 	template <typename ObjectType, typename MethodType, typename... VarTypes>
-	static TDelegate CreateMember(ObjectType* Object, std::function<bool()> IsAlive, MethodType Method, VarTypes&&... Vars)
+	static TDelegate CreateMember(ObjectType* Object, FOwner Owner, MethodType Method, VarTypes&&... Vars)
 	{
-		return Make(Object, std::move(IsAlive),
+		return Make(Object, std::move(Owner),
 			[Object, Method, Stored = std::tuple<std::decay_t<VarTypes>...>(std::forward<VarTypes>(Vars)...)](
 				ParamTypes... Params) mutable -> RetType {
 				return std::apply(
@@ -139,10 +142,10 @@ private:
 			});
 	}
 
-	static TDelegate Make(const void* Object, std::function<bool()> IsAlive, std::function<RetType(ParamTypes...)> Function)
+	static TDelegate Make(const void* Object, FOwner Owner, std::function<RetType(ParamTypes...)> Function)
 	{
 		TDelegate Result;
-		Result.Binding = std::make_shared<FBinding>(FBinding{ Object, std::move(IsAlive), std::move(Function) });
+		Result.Binding = std::make_shared<FBinding>(FBinding{ Object, std::move(Owner), std::move(Function) });
 		return Result;
 	}
 

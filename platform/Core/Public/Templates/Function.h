@@ -27,12 +27,10 @@ class TFunctionRef<Ret(ParamTypes...)>
 {
 public:
 	template <typename F>
-		requires(!std::is_same_v<std::decay_t<F>, TFunctionRef> && std::is_invocable_r_v<Ret, F&, ParamTypes...>)
-	TFunctionRef(F&& Function)
-		: Callable(const_cast<void*>(static_cast<const void*>(&Function)))
-		, Caller([](void* Object, ParamTypes... Params) -> Ret {
-			return (*static_cast<std::remove_reference_t<F>*>(Object))(Forward<ParamTypes>(Params)...);
-		})
+	requires(!std::is_same_v<std::decay_t<F>, TFunctionRef> && std::is_invocable_r_v<Ret, F&, ParamTypes...>) TFunctionRef(F&& Function)
+		: Callable(const_cast<void*>(reinterpret_cast<const void*>(std::addressof(Function))))
+		, Caller([](void* Object, ParamTypes... Params) -> Ret
+			  { return (*reinterpret_cast<std::remove_reference_t<F>*>(Object))(Forward<ParamTypes>(Params)...); })
 	{
 	}
 
@@ -54,8 +52,8 @@ public:
 	TUniqueFunction() = default;
 	TUniqueFunction(std::nullptr_t) {}
 	template <typename F>
-		requires(!std::is_same_v<std::decay_t<F>, TUniqueFunction> && std::is_invocable_r_v<Ret, std::decay_t<F>&, ParamTypes...>)
-	TUniqueFunction(F&& Function)
+	requires(!std::is_same_v<std::decay_t<F>, TUniqueFunction> && std::is_invocable_r_v<Ret, std::decay_t<F>&, ParamTypes...>)
+		TUniqueFunction(F&& Function)
 		: Held(std::make_unique<THeld<std::decay_t<F>>>(std::forward<F>(Function)))
 	{
 	}

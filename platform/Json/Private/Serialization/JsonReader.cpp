@@ -2,6 +2,7 @@
 
 #include "Dom/JsonObject.h"
 #include "PlainText.h"
+#include "ValueArena.h"
 
 #include <charconv>
 
@@ -25,6 +26,27 @@ int32 HexValue(TCHAR Char)
 constexpr double ExactPowers[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17,
 	1e18, 1e19, 1e20, 1e21, 1e22 };
 
+/** Makes the values of one document. */
+class FValueMaker
+{
+public:
+	explicit FValueMaker(SIZE_T ExpectedBytes)
+		: Arena(*new FValueArena(ExpectedBytes))
+	{
+	}
+	~FValueMaker() { Arena.Release(); }
+	UE_NONCOPYABLE(FValueMaker)
+
+	template <typename T, typename... ArgTypes>
+	TSharedPtr<T> Make(ArgTypes&&... Args) const
+	{
+		return TSharedPtr<T>(std::allocate_shared<T>(TArenaAllocator<T>(Arena), Forward<ArgTypes>(Args)...));
+	}
+
+private:
+	FValueArena& Arena;
+};
+
 /**
  * Values never change, so equal ones may be one: the words, and short texts that come again soon, such as the "#" of a file tree
  * and the types of a list's items.
@@ -32,6 +54,14 @@ constexpr double ExactPowers[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 
 class FSharedValues
 {
 public:
+	explicit FSharedValues(const FValueMaker& InMaker)
+		: Maker(InMaker)
+		, True(Maker.Make<FJsonValueBoolean>(true))
+		, False(Maker.Make<FJsonValueBoolean>(false))
+		, Nothing(Maker.Make<FJsonValueNull>())
+	{
+	}
+
 	const TSharedPtr<FJsonValue>& Boolean(bool bValue) const { return bValue ? True : False; }
 	const TSharedPtr<FJsonValue>& Null() const { return Nothing; }
 
@@ -39,12 +69,12 @@ public:
 	{
 		if (Text.Len() > LongestShared)
 		{
-			return MakeShared<FJsonValueString>(MoveTemp(Text));
+			return Maker.Make<FJsonValueString>(MoveTemp(Text));
 		}
 		TSharedPtr<FJsonValueString>& Recent = Recents[SlotOf(Text.View())];
 		if (!Recent.IsValid() || !Recent->Get().Equals(Text))
 		{
-			Recent = MakeShared<FJsonValueString>(MoveTemp(Text));
+			Recent = Maker.Make<FJsonValueString>(MoveTemp(Text));
 		}
 		return Recent;
 	}
@@ -58,9 +88,10 @@ private:
 		return Text.empty() ? 0 : (Text.size() * 7 + Text.front() * 3u + Text.back()) % Slots;
 	}
 
-	const TSharedPtr<FJsonValue> True = MakeShared<FJsonValueBoolean>(true);
-	const TSharedPtr<FJsonValue> False = MakeShared<FJsonValueBoolean>(false);
-	const TSharedPtr<FJsonValue> Nothing = MakeShared<FJsonValueNull>();
+	const FValueMaker& Maker;
+	const TSharedPtr<FJsonValue> True;
+	const TSharedPtr<FJsonValue> False;
+	const TSharedPtr<FJsonValue> Nothing;
 	TSharedPtr<FJsonValueString> Recents[Slots];
 };
 
@@ -72,6 +103,8 @@ public:
 		: Begin(Text.begin())
 		, End(Text.end())
 		, At(Text.begin())
+		, Maker(static_cast<SIZE_T>(Text.Len()) * 2)
+		, Shared(Maker)
 	{
 	}
 
@@ -219,14 +252,14 @@ private:
 	/** Takes the fields from First on. */
 	TSharedPtr<FJsonValue> MakeObject(int32 First)
 	{
-		TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+		TSharedPtr<FJsonObject> Object = Maker.Make<FJsonObject>();
 		Object->Values.Reserve(Fields.Num() - First);
 		for (int32 Index = First; Index < Fields.Num(); ++Index)
 		{
 			Object->Values.Add(MoveTemp(Fields[Index].Key), MoveTemp(Fields[Index].Value));
 		}
 		Fields.SetNum(First);
-		return MakeShared<FJsonValueObject>(MoveTemp(Object));
+		return Maker.Make<FJsonValueObject>(MoveTemp(Object));
 	}
 
 	TSharedPtr<FJsonValue> ReadArray()
@@ -262,7 +295,7 @@ private:
 			Array.Add(MoveTemp(Items[Index]));
 		}
 		Items.SetNum(First);
-		return MakeShared<FJsonValueArray>(MoveTemp(Array));
+		return Maker.Make<FJsonValueArray>(MoveTemp(Array));
 	}
 
 	TSharedPtr<FJsonValue> ReadWord(std::u16string_view Word, const TSharedPtr<FJsonValue>& Value)
@@ -401,7 +434,7 @@ private:
 			}
 		}
 		const double Size = bSimple ? static_cast<double>(Mantissa) / ExactPowers[-Exponent] : Convert(FirstDigit);
-		return MakeShared<FJsonValueNumber>(bNegative ? -Size : Size);
+		return Maker.Make<FJsonValueNumber>(bNegative ? -Size : Size);
 	}
 
 	/** The number between First and here, by the library's exact conversion. */
@@ -419,6 +452,7 @@ private:
 	const TCHAR* At;
 	const TCHAR* Error = nullptr;
 	int32 Depth = 0;
+	const FValueMaker Maker;
 	FSharedValues Shared;
 	// What the open objects and arrays hold so far, innermost last: each is made in one piece when it closes.
 	TArray<TPair<FString, TSharedPtr<FJsonValue>>> Fields;
