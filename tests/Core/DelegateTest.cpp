@@ -29,6 +29,19 @@ public:
 	FString Heard;
 };
 
+/** Drops its last owner from inside a call. */
+struct FOwner : TSharedFromThis<FOwner>
+{
+	void Drop(TSharedPtr<FOwner>* Last)
+	{
+		Last->Reset();
+		Value += 1;
+		bSawItself = Value == 42;
+	}
+	int32 Value = 41;
+	static inline bool bSawItself = false;
+};
+
 TEST(Delegate, CallsWhatItIsBoundToWithItsStoredArguments)
 {
 	FListener Listener(TEXT("raw"));
@@ -72,17 +85,6 @@ TEST(Delegate, IsUnboundOnceItsSharedObjectIsGone)
 
 TEST(Delegate, ItsSharedObjectLivesUntilTheCallEnds)
 {
-	struct FOwner : TSharedFromThis<FOwner>
-	{
-		void Drop(TSharedPtr<FOwner>* Last)
-		{
-			Last->Reset();
-			Value += 1;
-			bSawItself = Value == 42;
-		}
-		int32 Value = 41;
-		static inline bool bSawItself = false;
-	};
 	TSharedPtr<FOwner> Owner = MakeShared<FOwner>();
 	TWeakPtr<FOwner> Weak = Owner;
 	const auto Delegate = TDelegate<void(TSharedPtr<FOwner>*)>::CreateSP(Owner.ToSharedRef(), &FOwner::Drop);

@@ -280,7 +280,12 @@ TEST(Set, RandomOperationsAgreeWithTheLibrary)
 		ASSERT_EQ(Set.Contains(Item), Model.contains(Item));
 		ASSERT_EQ(Set.Num(), static_cast<int32>(Model.size()));
 	}
-	EXPECT_EQ(std::set<int32>(Set.begin(), Set.end()), Model);
+	std::set<int32> Seen;
+	for (const int32 Item : Set)
+	{
+		EXPECT_TRUE(Seen.insert(Item).second);
+	}
+	EXPECT_EQ(Seen, Model);
 }
 
 TEST(Set, KeepsItsOrderAndTakesTheNewSpelling)

@@ -173,7 +173,7 @@ TEST(Utf8, RandomTextsAsPlain)
 		std::u16string Text(Length, u'a');
 		for (TCHAR& Char : Text)
 		{
-			const uint32 Kind = Random() % 6;
+			const auto Kind = Random() % 6;
 			Char = static_cast<TCHAR>(Kind < 3 ? Random() % 128 : (Kind == 3 ? 0xD800 + Random() % 0x800 : Random()));
 		}
 		std::string Wanted;

@@ -382,7 +382,7 @@ TEST(String, SearchAgreesWithThePlainOne)
 	const auto Text = [&Random](uint32 Most)
 	{
 		FString Result;
-		for (uint32 Left = Random() % (Most + 1); Left > 0; --Left)
+		for (auto Left = Random() % (Most + 1); Left > 0; --Left)
 		{
 			Result.AppendChar(TEXT("aAbÄä")[Random() % 5]);
 		}

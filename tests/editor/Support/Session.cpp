@@ -1,6 +1,7 @@
 #include "Support/Session.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 
@@ -122,8 +123,9 @@ std::vector<Json> Session::Until(const std::string& Event)
 		if (Events.back().is_null())
 		{
 			Events.pop_back();
-			ADD_FAILURE() << "No event \"" << Event << "\" came, but " << ::testing::PrintToString(Transcript(Events));
-			break;
+			const Ending Result = Editor.Finish(1);
+			throw std::runtime_error("No event \"" + Event + "\" came, but " + ::testing::PrintToString(Transcript(Events)) + "; exit code " +
+				std::to_string(Result.Code) + ", " + Result.Error);
 		}
 	} while (Events.back().value("event", "") != Event);
 	return Events;
@@ -189,7 +191,8 @@ std::vector<std::string> Transcript(const std::vector<Json>& Events)
 	for (const Json& Event : Events)
 	{
 		std::string Line = Describe(Event);
-		if (Lines.empty() || Line != Lines.back() || Line != Processing)
+		const bool bPoll = Line == Processing || Line == "progress|Pausing request...";
+		if (Lines.empty() || Line != Lines.back() || !bPoll)
 		{
 			Lines.push_back(std::move(Line));
 		}
