@@ -14,7 +14,7 @@ int main(int ArgumentCount, char** Arguments)
 	FString Error;
 	if (!ParseOptions(Words, Options, Error))
 	{
-		std::fprintf(stderr, "kestrin-editor: %s\n\n%s", TCHAR_TO_UTF8(*Error), TCHAR_TO_UTF8(*GetUsage()));
+		std::fprintf(stderr, "kestrin-editor: %s; --help lists the options\n", TCHAR_TO_UTF8(*Error));
 		return 2;
 	}
 	if (Options.bShowHelp)

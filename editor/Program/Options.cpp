@@ -28,15 +28,20 @@ struct FOption
 	const TCHAR* Name;
 	/** How many words follow it. */
 	int32 Arguments;
-	/** False when an argument is no good. */
-	bool (*Apply)(FWords& Words, FProgramOptions& Options);
+	/** What is wrong with it; empty when nothing is. */
+	FString (*Apply)(FWords& Words, FProgramOptions& Options);
 };
 
 template <EEditorFace Face>
-bool ChooseFace(FWords&, FProgramOptions& Options)
+FString ChooseFace(FWords&, FProgramOptions& Options)
 {
+	if (Options.bFaceChosen && Options.Face.Face != Face)
+	{
+		return TEXT("the editor has one face at a time");
+	}
 	Options.Face.Face = Face;
-	return true;
+	Options.bFaceChosen = true;
+	return FString();
 }
 
 const TArray<FOption> KnownOptions = {
@@ -50,28 +55,29 @@ const TArray<FOption> KnownOptions = {
 		} },
 	{ TEXT("--clock-rate"), 1,
 		[](FWords& Words, FProgramOptions& Options) {
-			Options.ClockRate = FCString::Atod(*Words.Take());
-			return Options.ClockRate > 0.0;
+			const FString Rate = Words.Take();
+			Options.ClockRate = Rate.IsNumeric() ? FCString::Atod(*Rate) : 0.0;
+			return Options.ClockRate > 0.0 ? FString() : FString(TEXT("the rate is a number above 0"));
 		} },
 	{ TEXT("--log"), 1,
 		[](FWords& Words, FProgramOptions& Options) {
 			Options.LogFile = FPaths::ConvertRelativePathToFull(Words.Take());
-			return true;
+			return FString();
 		} },
 	{ TEXT("--plugin"), 1,
 		[](FWords& Words, FProgramOptions& Options) {
 			Options.PluginFolder = FPaths::ConvertRelativePathToFull(Words.Take());
-			return true;
+			return FString();
 		} },
 	{ TEXT("--help"), 0,
 		[](FWords&, FProgramOptions& Options) {
 			Options.bShowHelp = true;
-			return true;
+			return FString();
 		} },
 	{ TEXT("--version"), 0,
 		[](FWords&, FProgramOptions& Options) {
 			Options.bShowVersion = true;
-			return true;
+			return FString();
 		} },
 };
 }
@@ -85,13 +91,14 @@ bool ParseOptions(const TArray<FString>& Words, FProgramOptions& OutOptions, FSt
 		const FOption* const Option = KnownOptions.FindByPredicate([&Word](const FOption& Each) { return Word.Equals(Each.Name); });
 		if (Option)
 		{
-			if (!Rest.Has(Option->Arguments) || !Option->Apply(Rest, OutOptions))
+			const FString Fault = Rest.Has(Option->Arguments) ? Option->Apply(Rest, OutOptions) : FString(TEXT("its value is missing"));
+			if (!Fault.IsEmpty())
 			{
-				OutError = FString::Printf(TEXT("%s: its value is missing or no good"), *Word);
+				OutError = FString::Printf(TEXT("%s: %s"), *Word, *Fault);
 				return false;
 			}
 		}
-		else if (Word.StartsWith(TEXT("--")) || !OutOptions.Project.IsEmpty())
+		else if (Word.StartsWith(TEXT("-")) || !OutOptions.Project.IsEmpty())
 		{
 			OutError = FString::Printf(TEXT("%s: unknown option, or one project too many"), *Word);
 			return false;

@@ -7,6 +7,7 @@ struct FProgramOptions
 	/** Absolute. */
 	FString Project;
 	FFaceOptions Face;
+	bool bFaceChosen = false;
 	double ClockRate = 1.0;
 	/** Where the log goes; stderr when empty. */
 	FString LogFile;

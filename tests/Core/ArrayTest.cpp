@@ -1,3 +1,4 @@
+#include "CoreHost/LogDevice.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -242,9 +243,24 @@ TEST(ArrayDeathTest, AnIndexOutsideEndsTheProgram)
 	TArray<int32> Array = { 1, 2 };
 	for (const int32 Index : { -1, 2, 0x7fffffff })
 	{
-		EXPECT_DEATH(Array[Index] = 0, "IsValidIndex");
+		EXPECT_DEATH(
+			{
+				FLogDevice ToStderr;
+				Array[Index] = 0;
+			},
+			"IsValidIndex");
 	}
-	EXPECT_DEATH(Array.RemoveAt(1, 2), "Index");
-	EXPECT_DEATH(TArray<int32>().Pop(), "IsValidIndex");
+	EXPECT_DEATH(
+		{
+			FLogDevice ToStderr;
+			Array.RemoveAt(1, 2);
+		},
+		"Count <= ArrayNum");
+	EXPECT_DEATH(
+		{
+			FLogDevice ToStderr;
+			TArray<int32>().Pop();
+		},
+		"IsValidIndex");
 }
 }

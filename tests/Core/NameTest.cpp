@@ -59,8 +59,8 @@ TEST(Name, SplitsANumberOff)
 		EXPECT_EQ(Name.GetPlainNameString().Native(), Case.Plain);
 		EXPECT_EQ(Name.GetNumber(), Case.Number) << TCHAR_TO_UTF8(Case.Text);
 		EXPECT_EQ(Name.ToString().Native(), Case.Text);
-		EXPECT_EQ(FName(FName(Case.Plain), Case.Number), Name);
 	}
+	EXPECT_EQ(FName(FName(TEXT("Foo")), 2), FName(TEXT("foo_1")));
 	EXPECT_NE(FName(TEXT("Foo_0")), FName(TEXT("Foo")));
 	EXPECT_NE(FName(TEXT("Foo_0")), FName(TEXT("Foo_1")));
 }

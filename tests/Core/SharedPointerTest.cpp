@@ -1,3 +1,4 @@
+#include "CoreHost/LogDevice.h"
 #include "TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -89,8 +90,18 @@ TEST(SharedPointer, GivesSharedPointersToItself)
 TEST(SharedPointerDeathTest, ANullOneIsNoReference)
 {
 	TSharedPtr<FBase> Null;
-	EXPECT_DEATH(Null.ToSharedRef(), "Owner");
-	EXPECT_DEATH(Null->Kind(), "Owner");
+	EXPECT_DEATH(
+		{
+			FLogDevice ToStderr;
+			Null.ToSharedRef();
+		},
+		"Owner");
+	EXPECT_DEATH(
+		{
+			FLogDevice ToStderr;
+			Null->Kind();
+		},
+		"Owner");
 }
 
 TEST(UniquePointer, HasOneOwner)

@@ -211,9 +211,11 @@ TEST(String, ParseIntoArray)
 	for (const auto& Case : Cases)
 	{
 		TArray<FString> Parts = { TEXT("old") };
-		EXPECT_EQ(FString(Case.Text).ParseIntoArray(Parts, Case.Delimiter), Parts.Num());
+		int32 Count = FString(Case.Text).ParseIntoArray(Parts, Case.Delimiter);
+		EXPECT_EQ(Count, Parts.Num());
 		EXPECT_EQ(Joined(Parts), Case.Culled) << TCHAR_TO_UTF8(Case.Text);
-		EXPECT_EQ(FString(Case.Text).ParseIntoArray(Parts, Case.Delimiter, false), Parts.Num());
+		Count = FString(Case.Text).ParseIntoArray(Parts, Case.Delimiter, false);
+		EXPECT_EQ(Count, Parts.Num());
 		EXPECT_EQ(Joined(Parts), Case.Whole) << TCHAR_TO_UTF8(Case.Text);
 	}
 }
@@ -234,9 +236,11 @@ TEST(String, ParseIntoArrayLines)
 	for (const auto& Case : Cases)
 	{
 		TArray<FString> Lines;
-		EXPECT_EQ(FString(Case.Text).ParseIntoArrayLines(Lines), Lines.Num());
+		int32 Count = FString(Case.Text).ParseIntoArrayLines(Lines);
+		EXPECT_EQ(Count, Lines.Num());
 		EXPECT_EQ(Joined(Lines), Case.Culled) << TCHAR_TO_UTF8(Case.Text);
-		EXPECT_EQ(FString(Case.Text).ParseIntoArrayLines(Lines, false), Lines.Num());
+		Count = FString(Case.Text).ParseIntoArrayLines(Lines, false);
+		EXPECT_EQ(Count, Lines.Num());
 		EXPECT_EQ(Joined(Lines), Case.Whole) << TCHAR_TO_UTF8(Case.Text);
 	}
 }

@@ -181,7 +181,7 @@ TEST(JsonOracle, RefusesTheSameDamagedDocuments)
 	const std::string Marks = "{}[]:,\"\\019.e+- utfnbr\n";
 	int32 Accepted = 0;
 	int32 Refused = 0;
-	for (int32 Round = 0; Round < 30000; ++Round)
+	for (int32 Round = 0; Round < 8000; ++Round)
 	{
 		std::string Text = Documents.Make().dump();
 		for (uint32 Left = 1 + Documents.Pick(2); Left > 0 && !Text.empty(); --Left)
@@ -205,7 +205,7 @@ TEST(JsonOracle, RefusesTheSameDamagedDocuments)
 			++(bRead ? Accepted : Refused);
 		}
 	}
-	EXPECT_GT(Accepted, 3000);
-	EXPECT_GT(Refused, 3000);
+	EXPECT_GT(Accepted, 800);
+	EXPECT_GT(Refused, 800);
 }
 }

@@ -178,15 +178,4 @@ TEST(JsonObject, GetOfAMissingFieldIsEmptyAndLogged)
 	}
 	EXPECT_EQ(Named, 6);
 }
-
-TEST(JsonObject, AnIntegerOfTheWrongKindIsLogged)
-{
-	const TSharedPtr<FJsonObject> Object = ReadJson(TEXT("{\"text\":\"x\",\"big\":1e10}"))->AsObject();
-	for (const TCHAR* Name : { TEXT("text"), TEXT("big") })
-	{
-		FLogLines Log;
-		EXPECT_EQ(Object->GetIntegerField(Name), 0);
-		EXPECT_EQ(Log.Lines.Num(), 1) << TCHAR_TO_UTF8(Name);
-	}
-}
 }

@@ -121,7 +121,7 @@ TEST(JsonWriter, EscapesWhatItMustWhereverItStands)
 	// The search for what to escape takes four characters at a time: each character at each place of a block, plain neighbours of all
 	// kinds.
 	for (const TCHAR Neighbour :
-		{ u' ', u'!', u'#', u'[', u']', u'x', u'\x7F', u'\x80', u'\u011F', u'\u0122', u'\u015C', u'\uD83D', u'\uFFFF' })
+		{ u' ', u'!', u'#', u'[', u']', u'x', u'\x7F', u'\x80', u'\u011F', u'\u0122', u'\u015C', u'\xD83D', u'\xFFFF' })
 	{
 		for (int32 Char = 0; Char < 0x200; ++Char)
 		{

@@ -11,7 +11,7 @@
 
 namespace
 {
-/** A command's fields. What is missing or of a wrong type is an error of the command. */
+/** The fields of a command that has been found to be in order. */
 struct FArguments
 {
 	const FJsonObject& Fields;
@@ -29,10 +29,26 @@ struct FArguments
 	}
 };
 
+enum class EField : uint8
+{
+	Text,
+	/** A number that is not below 0. */
+	Seconds,
+	/** Looked at by the command itself. */
+	Any
+};
+
+struct FField
+{
+	const TCHAR* Name;
+	EField Type;
+	bool bRequired = true;
+};
+
 struct FCommand
 {
 	const TCHAR* Name;
-	TArray<const TCHAR*> RequiredFields;
+	TArray<FField> Fields;
 	void (*Run)(const FArguments& Arguments);
 };
 
@@ -63,11 +79,12 @@ bool ReadStates(const FJsonObject& Fields, TArray<EAgentState>& OutStates)
 	}
 	for (const TSharedPtr<FJsonValue>& Name : *Names)
 	{
-		const FString Text = Name->Type == EJson::String ? Name->AsString() : FString();
-		const int64 Value = StaticEnum<EAgentState>()->GetValueByNameString(Text);
+		FString State;
+		const bool bText = Name->TryGetString(State);
+		const int64 Value = bText ? StaticEnum<EAgentState>()->GetValueByNameString(State) : INDEX_NONE;
 		if (Value == INDEX_NONE)
 		{
-			WriteErrorEvent(FString::Printf(TEXT("There is no state '%s'."), *Text));
+			WriteErrorEvent(FString::Printf(TEXT("There is no state '%s'."), *State));
 			return false;
 		}
 		OutStates.Add(static_cast<EAgentState>(Value));
@@ -98,24 +115,45 @@ void RunSetCommand(const FArguments& Arguments)
 }
 
 const TCHAR* const Text = TEXT("text");
+const FField Prompt = { Text, EField::Text };
 
 const TArray<FCommand> Commands = {
-	{ TEXT("start"), { Text }, [](const FArguments& Arguments) { Interface().InitialRequest(Arguments.Text(Text)); } },
-	{ TEXT("regular"), { Text }, [](const FArguments& Arguments) { Interface().RegularRequest(Arguments.Text(Text)); } },
-	{ TEXT("continue"), { Text }, [](const FArguments& Arguments) { Interface().Continue(Arguments.Text(Text)); } },
+	{ TEXT("start"), { Prompt }, [](const FArguments& Arguments) { Interface().InitialRequest(Arguments.Text(Text)); } },
+	{ TEXT("regular"), { Prompt }, [](const FArguments& Arguments) { Interface().RegularRequest(Arguments.Text(Text)); } },
+	{ TEXT("continue"), { Prompt }, [](const FArguments& Arguments) { Interface().Continue(Arguments.Text(Text)); } },
 	{ TEXT("approve"), {}, [](const FArguments&) { Interface().Approve(); } },
 	{ TEXT("pause"), {}, [](const FArguments&) { Interface().PauseRequest(); } },
-	{ TEXT("end"), { Text }, [](const FArguments& Arguments) { Interface().EndRequest(Arguments.Text(Text)); } },
-	{ TEXT("cancel"), { Text }, [](const FArguments& Arguments) { Interface().CancelRequest(Arguments.Text(Text)); } },
+	{ TEXT("end"), { Prompt }, [](const FArguments& Arguments) { Interface().EndRequest(Arguments.Text(Text)); } },
+	{ TEXT("cancel"), { Prompt }, [](const FArguments& Arguments) { Interface().CancelRequest(Arguments.Text(Text)); } },
 	{ TEXT("undo"), {}, [](const FArguments&) { Interface().UndoLastOperation(); } },
 	{ TEXT("redo"), {}, [](const FArguments&) { Interface().RedoLastOperation(); } },
-	{ TEXT("set"), { TEXT("name"), TEXT("value") }, &RunSetCommand },
-	{ TEXT("tool"), { TEXT("name") }, &RunToolCommand },
-	{ TEXT("wait"), { TEXT("state") }, &RunWaitCommand },
-	{ TEXT("tick"), { TEXT("seconds") },
-		[](const FArguments& Arguments) { FMainLoop::RunFor(FMath::Max(0.0, Arguments.Number(TEXT("seconds"), 0.0))); } },
+	{ TEXT("set"), { { TEXT("name"), EField::Text }, { TEXT("value"), EField::Any } }, &RunSetCommand },
+	{ TEXT("tool"), { { TEXT("name"), EField::Text }, { TEXT("id"), EField::Text, false } }, &RunToolCommand },
+	{ TEXT("wait"), { { TEXT("state"), EField::Any }, { TEXT("timeout"), EField::Seconds, false } }, &RunWaitCommand },
+	{ TEXT("tick"), { { TEXT("seconds"), EField::Seconds } },
+		[](const FArguments& Arguments) { FMainLoop::RunFor(Arguments.Number(TEXT("seconds"), 0.0)); } },
 	{ TEXT("query"), {}, [](const FArguments&) { WriteStateEvent(); } },
 };
+
+/** What is wrong with a command's field; empty when nothing is. */
+FString FindFault(const FJsonObject& Fields, const FField& Field)
+{
+	if (!Fields.HasField(Field.Name))
+	{
+		return Field.bRequired ? FString::Printf(TEXT("needs the field '%s'"), Field.Name) : FString();
+	}
+	FString Ignored;
+	double Seconds = 0.0;
+	if (Field.Type == EField::Text && !Fields.TryGetStringField(Field.Name, Ignored))
+	{
+		return FString::Printf(TEXT("takes '%s' as a text"), Field.Name);
+	}
+	if (Field.Type == EField::Seconds && !(Fields.TryGetNumberField(Field.Name, Seconds) && Seconds >= 0.0))
+	{
+		return FString::Printf(TEXT("takes '%s' as a number of seconds"), Field.Name);
+	}
+	return FString();
+}
 
 /** Null, with a message, when the line is no command with all its fields. */
 const FCommand* FindCommand(const FString& Name, const FJsonObject& Fields, FString& OutError)
@@ -126,11 +164,12 @@ const FCommand* FindCommand(const FString& Name, const FJsonObject& Fields, FStr
 		OutError = FString::Printf(TEXT("There is no command '%s'."), *Name);
 		return nullptr;
 	}
-	for (const TCHAR* Field : Command->RequiredFields)
+	for (const FField& Field : Command->Fields)
 	{
-		if (!Fields.HasField(Field))
+		const FString Fault = FindFault(Fields, Field);
+		if (!Fault.IsEmpty())
 		{
-			OutError = FString::Printf(TEXT("The command '%s' needs the field '%s'."), *Name, Field);
+			OutError = FString::Printf(TEXT("The command '%s' %s."), *Name, *Fault);
 			return nullptr;
 		}
 	}

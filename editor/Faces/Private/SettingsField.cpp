@@ -11,22 +11,36 @@ FString Quoted(const FString& Text)
 		*Text.Replace(TEXT("\\"), TEXT("\\\\"), ESearchCase::CaseSensitive).Replace(TEXT("\""), TEXT("\\\""), ESearchCase::CaseSensitive));
 }
 
-/** The value in the notation that properties are imported from. */
-FString ToPropertyText(const FJsonValue& Value, bool bDelimited)
+bool IsScalar(const FJsonValue& Value)
+{
+	return Value.Type == EJson::String || Value.Type == EJson::Number || Value.Type == EJson::Boolean;
+}
+
+/** The value in the notation that properties are imported from; false for one that no field of the settings can have. */
+bool ToPropertyText(const FJsonValue& Value, FString& OutText)
 {
 	const TArray<TSharedPtr<FJsonValue>>* Items = nullptr;
-	if (Value.TryGetArray(Items))
+	if (!Value.TryGetArray(Items))
 	{
-		TArray<FString> Texts;
-		for (const TSharedPtr<FJsonValue>& Item : *Items)
-		{
-			Texts.Add(ToPropertyText(*Item, true));
-		}
-		return FString::Printf(TEXT("(%s)"), *FString::Join(Texts, TEXT(",")));
+		return IsScalar(Value) && Value.TryGetString(OutText);
 	}
-	FString Text;
-	Value.TryGetString(Text);
-	return bDelimited && Value.Type == EJson::String ? Quoted(Text) : Text;
+	TArray<FString> Texts;
+	for (const TSharedPtr<FJsonValue>& Item : *Items)
+	{
+		if (!IsScalar(*Item))
+		{
+			return false;
+		}
+		Texts.Add(Item->Type == EJson::String ? Quoted(Item->AsString()) : Item->AsString());
+	}
+	OutText = FString::Printf(TEXT("(%s)"), *FString::Join(Texts, TEXT(",")));
+	return true;
+}
+
+/** An enumerator goes by its name: a number would be taken whether the enum has it or not. */
+bool IsOfType(const FJsonValue& Value, const FProperty& Property)
+{
+	return Value.Type == EJson::String || !CastField<FEnumProperty>(&Property);
 }
 }
 
@@ -39,8 +53,10 @@ bool SetSettingsField(const FString& Name, const FJsonValue& Value, bool bSave, 
 		OutError = FString::Printf(TEXT("The settings have no field '%s'."), *Name);
 		return false;
 	}
-	const FString Text = ToPropertyText(Value, false);
-	const TCHAR* const End = Property->ImportText_Direct(*Text, Property->ContainerPtrToValuePtr<void>(Settings), Settings, PPF_None);
+	FString Text;
+	const TCHAR* const End = ToPropertyText(Value, Text) && IsOfType(Value, *Property)
+		? Property->ImportText_Direct(*Text, Property->ContainerPtrToValuePtr<void>(Settings), Settings, PPF_None)
+		: nullptr;
 	if (!End || *End)
 	{
 		OutError = FString::Printf(TEXT("The field '%s' can't be set to '%s'."), *Name, *Text);

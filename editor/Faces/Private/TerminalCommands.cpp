@@ -51,36 +51,59 @@ void ShowState(const FTerminalStyle& Style)
 
 void ShowHelp(const FTerminalStyle& Style);
 
+bool Always()
+{
+	return true;
+}
+
+bool HasConversation()
+{
+	return FAgent::Get().GetState() != EAgentState::Idle;
+}
+
+bool CanUndo()
+{
+	return Interface().CanUndo();
+}
+
+bool CanRedo()
+{
+	return Interface().CanRedo();
+}
+
 struct FCommand
 {
 	const TCHAR* Name;
 	const TCHAR* Help;
 	/** Whether it makes sense only while the agent works. */
 	bool bForRunningRequest;
+	/** Whether it can be used now. */
+	bool (*IsOffered)();
 	void (*Run)(const FString& Argument, const FTerminalStyle& Style);
 };
 
 const TArray<FCommand> Commands = {
-	{ TEXT("/continue"), TEXT("go on; with a text the calls that wait are dropped for it"), false,
+	{ TEXT("/continue"), TEXT("go on; with a text the calls that wait are dropped for it"), false, &HasConversation,
 		[](const FString& Argument, const FTerminalStyle&) { Interface().Continue(Argument); } },
-	{ TEXT("/approve"), TEXT("run the tool calls that wait"), false,
+	{ TEXT("/approve"), TEXT("run the tool calls that wait"), false, &HasConversation,
 		[](const FString&, const FTerminalStyle&) {
 			Interface().Approve();
 			Interface().Continue(FString());
 		} },
-	{ TEXT("/pause"), TEXT("pause at the next answer"), true, [](const FString&, const FTerminalStyle&) { Interface().PauseRequest(); } },
-	{ TEXT("/end"), TEXT("end the conversation"), false,
+	{ TEXT("/pause"), TEXT("pause at the next answer"), true, [] { return !WaitsForUser(); },
+		[](const FString&, const FTerminalStyle&) { Interface().PauseRequest(); } },
+	{ TEXT("/end"), TEXT("end the conversation"), false, &HasConversation,
 		[](const FString& Argument, const FTerminalStyle&) { Interface().EndRequest(Argument); } },
-	{ TEXT("/cancel"), TEXT("cancel the conversation; a text says why"), false,
+	{ TEXT("/cancel"), TEXT("cancel the conversation; a text says why"), false, &HasConversation,
 		[](const FString& Argument, const FTerminalStyle&) { Interface().CancelRequest(Argument); } },
-	{ TEXT("/undo"), TEXT("take back the last conversation's changes"), false,
+	{ TEXT("/undo"), TEXT("take back the last conversation's changes"), false, &CanUndo,
 		[](const FString&, const FTerminalStyle&) { Interface().UndoLastOperation(); } },
-	{ TEXT("/redo"), TEXT("bring back what was undone"), false,
+	{ TEXT("/redo"), TEXT("bring back what was undone"), false, &CanRedo,
 		[](const FString&, const FTerminalStyle&) { Interface().RedoLastOperation(); } },
-	{ TEXT("/mode"), TEXT("explain: tool calls wait for you; implement: they run at once"), false, &SetMode },
-	{ TEXT("/state"), TEXT("where the conversation stands"), false,
+	{ TEXT("/mode"), TEXT("explain: tool calls wait for you; implement: they run at once"), false, &Always, &SetMode },
+	{ TEXT("/state"), TEXT("where the conversation stands"), false, &Always,
 		[](const FString&, const FTerminalStyle& Style) { ShowState(Style); } },
-	{ TEXT("/help"), TEXT("this list"), false, [](const FString&, const FTerminalStyle& Style) { ShowHelp(Style); } },
+	{ TEXT("/help"), TEXT("this list"), false, &Always, [](const FString&, const FTerminalStyle& Style) { ShowHelp(Style); } },
 };
 const TCHAR* const QuitCommand = TEXT("/quit");
 
@@ -101,6 +124,18 @@ const FCommand* FindCommand(const FString& Line, FString& OutArgument)
 	Line.Split(TEXT(" "), &Name, &OutArgument);
 	OutArgument.TrimStartAndEndInline();
 	return Commands.FindByPredicate([&Name](const FCommand& Command) { return Name == Command.Name; });
+}
+
+void RunCommand(const FCommand& Command, const FString& Argument, const FTerminalStyle& Style)
+{
+	if (Command.IsOffered())
+	{
+		Command.Run(Argument, Style);
+	}
+	else
+	{
+		Style.PrintNote(FString::Printf(TEXT("%s can't be used now; /state tells where the conversation stands."), Command.Name));
+	}
 }
 }
 
@@ -133,7 +168,7 @@ ETerminalCommand RunTerminalLine(const FString& Line, const FTerminalStyle& Styl
 	FString Argument;
 	if (const FCommand* const Command = FindCommand(Line, Argument))
 	{
-		Command->Run(Argument, Style);
+		RunCommand(*Command, Argument, Style);
 	}
 	else if (Line.StartsWith(TEXT("/")))
 	{

@@ -88,19 +88,18 @@ void Program::Write(std::string_view Text)
 {
 	while (!Text.empty())
 	{
-		const ssize_t Written = write(Input, Text.data(), Text.size());
-		if (Written >= 0)
+		// What the child writes meanwhile is taken off it, so that neither waits for the other.
+		pollfd Ends[] = { { Input, POLLOUT, 0 }, { Output, POLLIN, 0 } };
+		if (poll(Ends, 2, 20000) <= 0 || ((Ends[1].revents != 0) && !ReadMore(Clock::now())))
 		{
-			Text.remove_prefix(static_cast<size_t>(Written));
+			return;
 		}
-		else if (errno != EAGAIN || !ReadMore(After(20)))
+		const ssize_t Written = Ends[0].revents != 0 ? write(Input, Text.data(), Text.size()) : 0;
+		if (Written < 0 && errno != EAGAIN)
 		{
-			pollfd Ready{ Input, POLLOUT, 0 };
-			if (errno != EAGAIN || poll(&Ready, 1, 20000) <= 0)
-			{
-				return;
-			}
+			return;
 		}
+		Text.remove_prefix(static_cast<size_t>(std::max<ssize_t>(Written, 0)));
 	}
 }
 

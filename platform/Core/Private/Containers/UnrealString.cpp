@@ -170,7 +170,7 @@ FString& FString::operator/=(const TCHAR* Path)
 	{
 		++Path;
 	}
-	else if (!Data.empty() && !bHasSlash && !bBringsSlash && *Path)
+	else if (!Data.empty() && !bHasSlash && !bBringsSlash)
 	{
 		Data.push_back('/');
 	}

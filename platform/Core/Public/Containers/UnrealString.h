@@ -116,7 +116,7 @@ public:
 	friend FString operator+(FString A, const TCHAR* B) { return MoveTemp(A.Append(B)); }
 	friend FString operator+(const TCHAR* A, const FString& B) { return MoveTemp(FString(A).Append(B)); }
 	friend FString operator+(FString A, TCHAR B) { return MoveTemp(A.AppendChar(B)); }
-	/** Joins as paths: one "/" between the two, when there is none. */
+	/** Joins as paths: one "/" between the two. An empty path behind leaves the "/" at the end. */
 	FString& operator/=(const TCHAR* Path);
 	friend FString operator/(FString A, const FString& B) { return MoveTemp(A /= *B); }
 	friend FString operator/(FString A, const TCHAR* B) { return MoveTemp(A /= B); }

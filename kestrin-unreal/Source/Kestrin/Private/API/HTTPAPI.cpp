@@ -96,6 +96,11 @@ void FHttpApi::SendRegularRequest(const FString& Message)
 	SendCommand(FString::Printf(TEXT("{\"tool_results\": %s, \"message\": %s}"), *Results, *ToJsonString(Message)));
 }
 
+void FHttpApi::SendTypedRequest(const FString& Type)
+{
+	SendCommand(FString::Printf(TEXT("{\"type\": %s}"), *ToJsonString(Type)));
+}
+
 void FHttpApi::SendCommand(const FString& Body)
 {
 	ResetPollTiming();

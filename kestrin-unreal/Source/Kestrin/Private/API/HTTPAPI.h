@@ -47,6 +47,8 @@ public:
 	void SendInitialRequest(const FString& Message);
 	/** A further prompt, with the tool results that wait, which are taken from the agent. */
 	void SendRegularRequest(const FString& Message);
+	/** A request of which the service knows no more than its type. */
+	void SendTypedRequest(const FString& Type);
 	/** Body: a JSON document. */
 	void SendCommand(const FString& Body);
 	/** Ends polling; the answer of a poll still on its way is dropped. */

@@ -43,7 +43,7 @@ bool IsExcludedName(FStringView Name, const TArray<FString>& ExcludedDirectories
  */
 bool IsPathExcluded(const FString& Path, const TArray<FString>& ExcludedDirectories)
 {
-	const FString Directory = Path / TEXT("/");
+	const FString Directory = Path.EndsWith(TEXT("/")) ? Path : Path + TEXT("/");
 	const FString ProjectDir = FPaths::ProjectDir();
 	FStringView Rest = Directory;
 	if (Rest.StartsWith(ProjectDir, ESearchCase::CaseSensitive))
