@@ -80,8 +80,11 @@ bool ReadStates(const FJsonObject& Fields, TArray<EAgentState>& OutStates)
 	for (const TSharedPtr<FJsonValue>& Name : *Names)
 	{
 		FString State;
-		const bool bText = Name->TryGetString(State);
-		const int64 Value = bText ? StaticEnum<EAgentState>()->GetValueByNameString(State) : INDEX_NONE;
+		int64 Value = INDEX_NONE;
+		if (Name->TryGetString(State))
+		{
+			Value = StaticEnum<EAgentState>()->GetValueByNameString(State);
+		}
 		if (Value == INDEX_NONE)
 		{
 			WriteErrorEvent(FString::Printf(TEXT("There is no state '%s'."), *State));

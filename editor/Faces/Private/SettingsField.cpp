@@ -53,12 +53,17 @@ bool SetSettingsField(const FString& Name, const FJsonValue& Value, bool bSave, 
 		OutError = FString::Printf(TEXT("The settings have no field '%s'."), *Name);
 		return false;
 	}
+	void* const Field = Property->ContainerPtrToValuePtr<void>(Settings);
+	FString Kept;
+	Property->ExportTextItem_Direct(Kept, Field, nullptr, Settings, PPF_None);
 	FString Text;
 	const TCHAR* const End = ToPropertyText(Value, Text) && IsOfType(Value, *Property)
-		? Property->ImportText_Direct(*Text, Property->ContainerPtrToValuePtr<void>(Settings), Settings, PPF_None)
+		? Property->ImportText_Direct(*Text, Field, Settings, PPF_None)
 		: nullptr;
 	if (!End || *End)
 	{
+		// A list may have been read in part.
+		Property->ImportText_Direct(*Kept, Field, Settings, PPF_None);
 		OutError = FString::Printf(TEXT("The field '%s' can't be set to '%s'."), *Name, *Text);
 		return false;
 	}
