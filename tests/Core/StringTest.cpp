@@ -273,7 +273,7 @@ TEST(String, JoinsPartsAndPaths)
 	{
 		const TCHAR *A, *B, *Wanted;
 	} Cases[] = { { u"a", u"b", u"a/b" }, { u"a/", u"b", u"a/b" }, { u"a", u"/b", u"a/b" }, { u"a/", u"/b", u"a/b" }, { u"", u"b", u"b" },
-		{ u"a", u"", u"a" } };
+		{ u"a", u"", u"a/" }, { u"a/", u"", u"a/" }, { u"", u"", u"" } };
 	for (const auto& Case : Cases)
 	{
 		EXPECT_EQ((FString(Case.A) / Case.B).Native(), Case.Wanted);

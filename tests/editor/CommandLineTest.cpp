@@ -26,7 +26,8 @@ TEST(CommandLine, TellsItsOptionsAndItsVersion)
 {
 	const Ending Help = RunEditor({ "--help" });
 	EXPECT_EQ(Help.Code, 0);
-	for (const char* Word : { "PROJECT.uproject", "--headless", "--terminal", "--call TOOL JSON", "--clock-rate", "--log", "--plugin", "--version" })
+	for (const char* Word :
+		{ "PROJECT.uproject", "--headless", "--terminal", "--call TOOL JSON", "--clock-rate", "--log", "--plugin", "--version" })
 	{
 		EXPECT_NE(Help.Out.find(Word), std::string::npos) << Word;
 	}
@@ -41,9 +42,10 @@ TEST(CommandLine, RefusesWhatItCannotDoAndSaysWhy)
 	Toy.Write("Broken.uproject", "{\"FileVersion\": 3, \"Plug");
 	Toy.Write("List.uproject", "[]");
 	Toy.Write("Empty.uproject", "");
-	Toy.Write("Binary.uproject", std::string("\x7f"
-											 "ELF\0\xff",
-									 6));
+	Toy.Write("Binary.uproject",
+		std::string("\x7f"
+					"ELF\0\xff",
+			6));
 	const std::string File = Toy.GetFile();
 	const auto Beside = [&](const char* Name) { return (Toy.GetFolder() / Name).string(); };
 	struct
@@ -138,12 +140,15 @@ TEST(CommandLine, CallsNothingWithInputThatIsNoJson)
 TEST(CommandLine, WritesItsLogWhereItIsTold)
 {
 	const Project Toy;
+	Toy.Connect(1);
 	const std::string Log = (Toy.GetFolder() / "editor.log").string();
-	// A broken stage file is nothing that stops the editor; what it has to say of anything goes to the log.
-	const Ending Result = RunEditor({ Toy.GetFile(), "--log", Log, "--headless" }, "{\"do\":\"quit\"}\n");
-	EXPECT_EQ(Result.Code, 0);
-	EXPECT_EQ(Result.Error, "");
-	EXPECT_TRUE(fs::exists(Log));
+	const std::string Input = Do("start", "go").dump() + "\n" + WaitFor("Idle").dump() + "\n";
+	const Ending Quiet = RunEditor({ Toy.GetFile(), "--headless", "--log", Log }, Input);
+	EXPECT_EQ(Quiet.Code, 0);
+	EXPECT_EQ(Quiet.Error, "");
+	EXPECT_NE(ReadText(Log).find("127.0.0.1:1/prod/command"), std::string::npos) << ReadText(Log);
+	const Ending Loud = RunEditor({ Toy.GetFile(), "--headless" }, Input);
+	EXPECT_NE(Loud.Error.find("127.0.0.1:1/prod/command"), std::string::npos) << Loud.Error;
 }
 
 TEST(CommandLine, OpensAProjectUnderAnyPath)
@@ -159,11 +164,13 @@ TEST(CommandLine, OpensAProjectUnderAnyPath)
 		SCOPED_TRACE(Folder);
 		const Project Toy(Folder);
 		Toy.Connect(Service);
-		const Ending Called = RunEditor({ Toy.GetFile(), "--call", "create_file", R"({"path":"\u00e4 b/C.txt","file_text":"c"})", "--call",
-			"read_file", R"({"path":"Missing.txt"})", "--call", "update_file", R"({"path":"Missing.txt","old_string":"a","new_string":"b"})" });
+		const Ending Called =
+			RunEditor({ Toy.GetFile(), "--call", "create_file", R"({"path":"\u00e4 b/C.txt","file_text":"c"})", "--call", "read_file",
+				R"({"path":"Missing.txt"})", "--call", "update_file", R"({"path":"Missing.txt","old_string":"a","new_string":"b"})" });
 		EXPECT_EQ(Called.Code, 1);
 		EXPECT_EQ(Toy.Read("\u00e4 b/C.txt"), "c");
-		EXPECT_NE(Called.Out.find("Error: File does not exist: " + (Toy.GetFolder() / "Missing.txt").string()), std::string::npos) << Called.Out;
+		EXPECT_NE(Called.Out.find("Error: File does not exist: " + (Toy.GetFolder() / "Missing.txt").string()), std::string::npos)
+			<< Called.Out;
 		Session Editor(Toy);
 		EXPECT_EQ(Editor.GetReady().value("project", ""), Toy.GetFile());
 		const auto Seen = Transcript(Editor.Run({ Do("start", "go"), WaitFor("AwaitingUpdate") }));

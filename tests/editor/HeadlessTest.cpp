@@ -126,7 +126,8 @@ TEST(Headless, TakesLinesOfAnyFormAndLength)
 	EXPECT_EQ(Transcript(Editor.Run({})), Lines{ "> Idle" });
 
 	const std::string Large(4 << 20, 'x');
-	Editor.Run({ { { "do", "tool" }, { "name", "create_file" }, { "id", "a" }, { "input", { { "path", "Large.txt" }, { "file_text", Large } } } } });
+	Editor.Run({ { { "do", "tool" }, { "name", "create_file" }, { "id", "a" },
+		{ "input", { { "path", "Large.txt" }, { "file_text", Large } } } } });
 	EXPECT_EQ(Toy.Read("Large.txt"), Large);
 	const std::vector<Json> Events =
 		Editor.Run({ { { "do", "tool" }, { "name", "read_file" }, { "id", "b" }, { "input", { { "path", "Large.txt" } } } } });
@@ -306,7 +307,8 @@ TEST(Headless, ATickedResetButtonRestoresTheListAndSaves)
 {
 	const Project Toy;
 	Session Editor(Toy);
-	Editor.Run({ Set("SupportedFileExtensions", { "md" }), Set("ExcludedDirectories", { "Attic" }), Set("bResetSupportedFileExtensions", true) });
+	Editor.Run(
+		{ Set("SupportedFileExtensions", { "md" }), Set("ExcludedDirectories", { "Attic" }), Set("bResetSupportedFileExtensions", true) });
 	const std::string Saved = Toy.Read("Config/DefaultEditorPerUserSettings.ini");
 	EXPECT_NE(Saved.find("SupportedFileExtensions=uproject\n"), std::string::npos) << Saved;
 	EXPECT_EQ(Saved.find("SupportedFileExtensions=md"), std::string::npos) << Saved;

@@ -71,7 +71,8 @@ struct Story
 
 const char* const AskBody = R"({"message":"ask","file_structure":"TREE","is_confirmation_mode":true})";
 const char* const ToolsBody = R"({"message":"tools","file_structure":"TREE","is_confirmation_mode":true})";
-const char* const FirstResult = R"({"type":"tool_result","tool_use_id":"one","content":"File created successfully: A.txt","is_error":false})";
+const char* const FirstResult =
+	R"({"type":"tool_result","tool_use_id":"one","content":"File created successfully: A.txt","is_error":false})";
 const char* const SecondResult =
 	R"({"type":"tool_result","tool_use_id":"two","content":"File created successfully: B.txt","is_error":false})";
 
@@ -106,7 +107,8 @@ std::vector<Story> Stories()
 		{ "a queued finish takes the confirmation back",
 			{ Do("start", "last"), WaitFor("AwaitingApproval"), Do("continue", ""), WaitFor("PollRequest"), WaitFor("AwaitingUpdate") },
 			Started("last") + Answered() + Entered("AwaitingApproval") + Resumed +
-				Lines{ "> AwaitingUpdate", Sending, "> AwaitingUpdate", "> PollRequest", "waited PollRequest", Processing, "> PollResponse" } +
+				Lines{
+					"> AwaitingUpdate", Sending, "> AwaitingUpdate", "> PollRequest", "waited PollRequest", Processing, "> PollResponse" } +
 				Lines{ "assistant| [ Kestrin ] \n\nGood night.\n" } + Entered("AwaitingUpdate"),
 			{ R"({"message":"last","file_structure":"TREE","is_confirmation_mode":true})",
 				R"({"message":"","tool_results":[{"type":"tool_result","tool_use_id":"end","content":"Finished","is_error":false}],"was_confirmed":false})" } },
@@ -114,8 +116,8 @@ std::vector<Story> Stories()
 			{ Do("start", "finish"), WaitFor("AwaitingUpdate"), WaitFor("PollRequest"), WaitFor("AwaitingUpdate"), Do("continue", ""),
 				WaitFor("AwaitingApproval") },
 			Started("finish") + Answered("Bye.") +
-				Lines{ "> AwaitingUpdate", Sending, "waited AwaitingUpdate", "> PollRequest", "waited PollRequest", Processing, "> PollResponse",
-					"assistant| [ Kestrin ] \n\nGood night.\n" } +
+				Lines{ "> AwaitingUpdate", Sending, "waited AwaitingUpdate", "> PollRequest", "waited PollRequest", Processing,
+					"> PollResponse", "assistant| [ Kestrin ] \n\nGood night.\n" } +
 				Entered("AwaitingUpdate") + Resumed + Lines{ "progress|Reading File..." } + SentOn + Answered("Thanks.") +
 				Entered("AwaitingApproval"),
 			{ R"({"message":"finish","file_structure":"TREE","is_confirmation_mode":true})",
@@ -153,8 +155,7 @@ std::vector<Story> Stories()
 				Entered("AwaitingUpdate"),
 			{ R"({"message":"finish","file_structure":"TREE","is_confirmation_mode":true})",
 				R"({"message":"","tool_results":[{"type":"tool_result","tool_use_id":"end","content":"Finished","is_error":false},{"type":"tool_result","tool_use_id":"behind","content":"A toy.","is_error":false}],"was_confirmed":false})" } },
-		{ "a command that comes before any conversation is sent all the same",
-			{ Do("continue", ""), WaitFor("AwaitingApproval") },
+		{ "a command that comes before any conversation is sent all the same", { Do("continue", ""), WaitFor("AwaitingApproval") },
 			Resumed + SentOn + Answered("Thanks.") + Entered("AwaitingApproval"), { R"({"message":"","was_confirmed":true})" } },
 		{ "work that fails cancels", { Do("start", "fail"), WaitFor("PollRequest"), WaitFor("Idle") },
 			Started("fail") +

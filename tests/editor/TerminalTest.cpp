@@ -12,7 +12,7 @@ Json Rules()
 	return Json::parse(R"([
 		{ "message": "change", "answer": [ "Look.",
 			{ "tool": "update_file", "input": { "path": "Source/Toy/Toy.cpp", "old_string": "3", "new_string": "4" } } ] },
-		{ "message": "long", "polls": 8, "answer": [ "At last." ] },
+		{ "message": "long", "polls": 3, "answer": [ "At last." ] },
 		{ "message": "endless", "polls": 100000 },
 		{ "answer": [ "You said {{message}}." ], "auto_continue": true }
 	])");

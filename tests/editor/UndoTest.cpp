@@ -31,7 +31,8 @@ public:
 			Toy.Write(Path, Bytes);
 		}
 		Editor = std::make_unique<Session>(Toy);
-		Seen = Transcript(Editor->Run({ Set("Mode", "ExplainerAndImplementerMode"), Do("start", "go"), WaitFor("AwaitingUpdate"), Do("end", "") }));
+		Seen = Transcript(
+			Editor->Run({ Set("Mode", "ExplainerAndImplementerMode"), Do("start", "go"), WaitFor("AwaitingUpdate"), Do("end", "") }));
 	}
 
 	Lines Undo() { return Transcript(Editor->Run({ Do("undo") })); }
@@ -99,10 +100,10 @@ TEST(Undo, RestoresTheFilesOfAConversationAndRedoBringsItsChangesBack)
 	EXPECT_EQ(Conversation.Results(),
 		(Lines{ "Successfully replaced file: Files/Replaced.h", "Successfully updated file: Files/Updated.cpp with 2 replacements",
 			"Successfully inserted text at line 1 in file: Files/Inserted.ini",
-			"Successfully updated file: Files/Twice.txt with 1 replacements", "Successfully updated file: Files/Twice.txt with 1 replacements",
-			"Successfully deleted file: Files/Deleted.cpp", "Successfully deleted file: Files/Deleted.txt",
-			"File created successfully: Files/New/Deep/Created.txt", "File created successfully: Files/Grown.h",
-			"Successfully updated file: Files/Grown.h with 1 replacements" }));
+			"Successfully updated file: Files/Twice.txt with 1 replacements",
+			"Successfully updated file: Files/Twice.txt with 1 replacements", "Successfully deleted file: Files/Deleted.cpp",
+			"Successfully deleted file: Files/Deleted.txt", "File created successfully: Files/New/Deep/Created.txt",
+			"File created successfully: Files/Grown.h", "Successfully updated file: Files/Grown.h with 1 replacements" }));
 	Files After = {
 		{ "Files/Replaced.h", Bom + "new\n" },
 		{ "Files/Updated.cpp", Bom + "\u00df\tb\r\n\u00df\n\u00fc no end" },
@@ -189,7 +190,8 @@ TEST(Undo, IsOfferedOnlyForChangesOfAConversationThatIsOver)
 	const Project Toy;
 	Toy.Connect(Service);
 	Session Editor(Toy);
-	const auto Offers = [&] {
+	const auto Offers = [&]
+	{
 		const Json State = Editor.Query();
 		return State["can_undo"].dump() + " " + State["can_redo"].dump();
 	};

@@ -36,6 +36,6 @@ void Project::Connect(const ServiceProcess& Service, const std::string& Key) con
 
 void Project::Connect(int Port, const std::string& Key) const
 {
-	Write("Config/DefaultPlugin.ini",
-		"[Kestrin]\nStage=Dev\nDevApiUrl=127.0.0.1:" + std::to_string(Port) + "/prod\nDevApiKey=" + Key + "\n");
+	Write(
+		"Config/DefaultPlugin.ini", "[Kestrin]\nStage=Dev\nDevApiUrl=127.0.0.1:" + std::to_string(Port) + "/prod\nDevApiKey=" + Key + "\n");
 }

@@ -28,8 +28,7 @@ const std::vector<std::pair<std::string, std::vector<std::string>>> EventFields 
 
 void CheckFields(const Json& Event)
 {
-	const auto Known =
-		std::ranges::find(EventFields, Event.value("event", ""), &std::pair<std::string, std::vector<std::string>>::first);
+	const auto Known = std::ranges::find(EventFields, Event.value("event", ""), &std::pair<std::string, std::vector<std::string>>::first);
 	ASSERT_NE(Known, EventFields.end()) << Event;
 	std::vector<std::string> Expected{ "event" };
 	Expected.insert(Expected.end(), Known->second.begin(), Known->second.end());
@@ -124,8 +123,8 @@ std::vector<Json> Session::Until(const std::string& Event)
 		{
 			Events.pop_back();
 			const Ending Result = Editor.Finish(1);
-			throw std::runtime_error("No event \"" + Event + "\" came, but " + ::testing::PrintToString(Transcript(Events)) + "; exit code " +
-				std::to_string(Result.Code) + ", " + Result.Error);
+			throw std::runtime_error("No event \"" + Event + "\" came, but " + ::testing::PrintToString(Transcript(Events)) +
+				"; exit code " + std::to_string(Result.Code) + ", " + Result.Error);
 		}
 	} while (Events.back().value("event", "") != Event);
 	return Events;

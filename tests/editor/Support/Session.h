@@ -9,7 +9,7 @@
 #include "Support/Project.h"
 
 /** How many times as fast the editor's clock runs where a test does not say otherwise. */
-constexpr int ClockRate = 20;
+constexpr int ClockRate = 40;
 
 /** One headless session. Whatever comes that is no event of the contract fails the test. */
 class Session
