@@ -40,9 +40,9 @@ function(kestrin_module Name)
 		# Clang's sanitizer runtime is linked into programs alone; its symbols are undefined in shared libraries.
 		target_link_options(${Name} PRIVATE -Wl,-z,undefs)
 	endif()
-	if(NOT Name STREQUAL Core)
-		target_precompile_headers(${Name} PRIVATE <CoreMinimal.h>)
-	endif()
+	target_precompile_headers(${Name} PRIVATE <CoreMinimal.h>)
+	# A precompiled header from the cache of another checkout holds other time stamps, with which "#pragma once" fails.
+	set_target_properties(${Name} PROPERTIES CXX_COMPILER_LAUNCHER "")
 	kestrin_reflect(${Name} ${Root} ${PublicHeaders})
 endfunction()
 

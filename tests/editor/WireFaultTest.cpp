@@ -234,17 +234,27 @@ TEST(WireFault, AnAnswerAfterTheEndIsDroppedAndNeverReachesTheNextConversation)
 
 TEST(WireFault, AnAnswerThatComesTwiceCountsOnce)
 {
-	// The first poll's answer is held back until a later poll has brought it.
+	// The first poll's answer is held back until a later poll has brought it, and in the implementer's mode until the next work is polled.
 	const ServiceProcess Service(Json::parse(R"([
-		{ "status_faults": [ { "delay": 0.5 } ], "answer": [ "Once.", { "tool": "create_file", "input": { "path": "A.txt", "file_text": "a" } } ] }
+		{ "message": "go", "status_faults": [ { "delay": 0.5 } ], "answer": [
+			"Once.", { "tool": "insert_into_file", "input": { "path": "Source/Toy/Toy.cpp", "insert_line": 0, "new_string": "// On" } } ] },
+		{ "polls": 5, "answer": [ "Next." ] }
 	])"));
-	const Project Toy;
-	Toy.Connect(Service);
-	Session Editor(Toy);
-	Lines Seen = Transcript(Editor.Run({ Do("start", "go"), WaitFor("AwaitingApproval"), { { "do", "tick" }, { "seconds", 25 } } }));
-	EXPECT_EQ(std::ranges::count(Seen, "assistant| [ Kestrin ] \n\nOnce.\n"), 1);
-	EXPECT_EQ(Editor.Query()["pending_tools"].size(), 1u);
-	EXPECT_GE(LoggedRequests(Service, "GET").size(), 2u);
+	for (const char* Mode : { "ExplainerMode", "ExplainerAndImplementerMode" })
+	{
+		const Project Toy;
+		Toy.Connect(Service);
+		Session Editor(Toy);
+		const Lines Seen = Transcript(Editor.Run({ Set("Mode", Mode), Do("start", "go"),
+			{ { "do", "wait" }, { "state", { "AwaitingApproval", "AwaitingUpdate" } } }, { { "do", "tick" }, { "seconds", 25 } } }));
+		EXPECT_EQ(std::ranges::count(Seen, "assistant| [ Kestrin ] \n\nOnce.\n"), 1) << Mode;
+		if (Editor.GetState() == "AwaitingApproval")
+		{
+			EXPECT_EQ(Editor.Query()["pending_tools"].size(), 1u);
+			Editor.Run({ Do("continue", ""), WaitFor("PollRequest") });
+		}
+		EXPECT_EQ(Toy.Read("Source/Toy/Toy.cpp"), "// On\nint Oil = 3;\n") << Mode;
+	}
 }
 
 TEST(WireFault, TheServiceMayGoAndComeBackInTheMiddle)

@@ -23,6 +23,9 @@ public:
 	Program(const Program&) = delete;
 	Program& operator=(const Program&) = delete;
 
+	/** Until Finish. */
+	bool IsRunning() const { return Process > 0; }
+
 	/** Writes all of it; a child that no longer reads is no error. */
 	void Write(std::string_view Text);
 	/** End of input; on a terminal nothing happens. */

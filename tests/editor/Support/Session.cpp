@@ -92,6 +92,14 @@ Session::Session(const Project& In, std::vector<std::string> Options)
 	EXPECT_EQ(Ready.is_null() ? "" : Ready.value("event", ""), "ready");
 }
 
+Session::~Session()
+{
+	if (Editor.IsRunning())
+	{
+		End();
+	}
+}
+
 Json Session::Next(double Seconds)
 {
 	const std::optional<std::string> Line = Editor.ReadLine(Seconds);

@@ -17,6 +17,11 @@ class Session
 public:
 	explicit Session(const Project& In, std::vector<std::string> Options = { "--clock-rate", std::to_string(ClockRate) });
 
+	/** Ends it, unless that was done. */
+	~Session();
+	Session(const Session&) = delete;
+	Session& operator=(const Session&) = delete;
+
 	/** The first event. */
 	const Json& GetReady() const { return Ready; }
 
