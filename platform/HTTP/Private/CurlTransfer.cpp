@@ -52,6 +52,8 @@ void FCurlTransfer::SetUpRequest()
 	if (Exchange.Content.Num() > 0 || Exchange.Verb == TEXT("POST"))
 	{
 		::curl_easy_setopt(Handle, CURLOPT_POST, 1L);
+		// On a connection that the server has closed meanwhile libcurl would send the request again, and work could run twice.
+		::curl_easy_setopt(Handle, CURLOPT_FRESH_CONNECT, 1L);
 		::curl_easy_setopt(Handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(Exchange.Content.Num()));
 		// The content lives as long as the transfer; null would ask for a read callback.
 		const uint8* const Bytes = Exchange.Content.GetData();
