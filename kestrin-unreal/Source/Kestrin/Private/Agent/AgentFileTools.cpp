@@ -4,9 +4,8 @@
 #include "Agent/FileUtils.h"
 #include "Agent/KestrinInterface.h"
 #include "HAL/FileManager.h"
+#include "Math/NumericLimits.h"
 #include "Misc/Paths.h"
-
-#include <limits>
 
 // Each handler records what undo needs before it changes anything, so that a failed change leaves a record too.
 // A diff is shown only when the change did not fail.
@@ -51,9 +50,7 @@ bool ReadContent(const FString& Path, FString& OutContent)
 
 int32 ToWholeNumber(const FJsonValue& Value)
 {
-	using FLimits = std::numeric_limits<int32>;
-	return static_cast<int32>(
-		FMath::Clamp(Value.AsNumber(), static_cast<double>(FLimits::min()), static_cast<double>(FLimits::max())));
+	return static_cast<int32>(FMath::Clamp(Value.AsNumber(), static_cast<double>(MIN_int32), static_cast<double>(MAX_int32)));
 }
 
 /** False when there is no range, or one that does not count. */
