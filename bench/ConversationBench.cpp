@@ -17,12 +17,13 @@
 
 namespace
 {
-const char* const Answer = R"({"status":"COMPLETED","response":{"auto_continue":true,"response":[)"
-						   R"({"type":"tool_use","name":"read_file","id":"1","input":{"path":"a.txt"}},)"
-						   R"({"type":"tool_use","name":"read_file","id":"2","input":{"path":"a.txt","view_range":[1,2]}},)"
-						   R"({"type":"tool_use","name":"update_file","id":"3","input":{"path":"a.txt","old_string":"x","new_string":"x"}},)"
-						   R"({"type":"tool_use","name":"get_filesystem_tree","id":"4","input":{"dir_path":""}},)"
-						   R"({"type":"tool_use","name":"none","id":"5","input":{}}]}})";
+const char* const Answer =
+	R"({"status":"COMPLETED","response":{"auto_continue":true,"response":[)"
+	R"({"type":"tool_use","name":"read_file","id":"1","input":{"path":"a.txt"}},)"
+	R"({"type":"tool_use","name":"read_file","id":"2","input":{"path":"a.txt","view_range":[1,2]}},)"
+	R"({"type":"tool_use","name":"update_file","id":"3","input":{"path":"a.txt","old_string":"x","new_string":"x"}},)"
+	R"({"type":"tool_use","name":"get_filesystem_tree","id":"4","input":{"dir_path":""}},)"
+	R"({"type":"tool_use","name":"none","id":"5","input":{}}]}})";
 
 void OpenProject()
 {

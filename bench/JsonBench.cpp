@@ -22,10 +22,11 @@ std::string MakeAnswers(SIZE_T Bytes)
 	for (int Index = 0; Document.size() < Bytes; ++Index)
 	{
 		Document += Index ? "," : "";
-		Document += R"({"type":"tool_use","id":"call_)" + std::to_string(Random()) + R"(","name":"update_file","input":{"path":"Source/Game/File)"
-			+ std::to_string(Index) + R"(.cpp","old_string":"if (bReady)\n{\n\treturn \"grün\";\n}","new_string":")"
-			+ std::string(Random() % 200, 'x') + R"(","view_range":[)" + std::to_string(Random() % 1000) + "," + std::to_string(Random() % 100000)
-			+ R"(],"weight":)" + std::to_string(static_cast<double>(Random() % 1000000) / 1000.0) + R"(,"confirmed":false,"note":null}})";
+		Document += R"({"type":"tool_use","id":"call_)" + std::to_string(Random()) +
+			R"(","name":"update_file","input":{"path":"Source/Game/File)" + std::to_string(Index) +
+			R"(.cpp","old_string":"if (bReady)\n{\n\treturn \"grün\";\n}","new_string":")" + std::string(Random() % 200, 'x') +
+			R"(","view_range":[)" + std::to_string(Random() % 1000) + "," + std::to_string(Random() % 100000) + R"(],"weight":)" +
+			std::to_string(static_cast<double>(Random() % 1000000) / 1000.0) + R"(,"confirmed":false,"note":null}})";
 	}
 	return Document + "]}";
 }

@@ -7,7 +7,7 @@ fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 packages=(
 	g++ cmake ninja-build ccache pkg-config
 	libcurl4-openssl-dev libssl-dev libcpp-httplib-dev nlohmann-json3-dev
-	libgtest-dev
+	libgtest-dev libgmock-dev
 )
 
 install_missing() {

@@ -183,7 +183,8 @@ TEST(AgentState, APauseTakesEffectAtTheNextAnswer)
 	EXPECT_EQ(Talk.State(), "PollRequest");
 	Talk.WaitForPoll();
 	Talk.Forget();
-	Talk.Answer(200, std::string(R"({"status":"COMPLETED","response":{"auto_continue":true,"response":[)") + TextBlock + "," + ReadBlock + "]}}");
+	Talk.Answer(
+		200, std::string(R"({"status":"COMPLETED","response":{"auto_continue":true,"response":[)") + TextBlock + "," + ReadBlock + "]}}");
 	EXPECT_EQ(Talk.State(), "Pause");
 	EXPECT_THAT(Talk.Chat, ElementsAre("assistant| [ Kestrin ] \n\nHello\n", "user| [ User ]\n\nThe process has been paused.\n"));
 	EXPECT_EQ(FAgent::Get().GetPendingTools().Num(), 1);

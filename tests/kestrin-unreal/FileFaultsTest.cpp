@@ -21,9 +21,8 @@ class FFault
 public:
 	FFault(EFileOperation Operation, const TCHAR* PathPart)
 	{
-		FFileFaults::SetHook([Operation, PathPart](EFileOperation Each, const FString& Path) {
-			return Each != Operation || !Path.Contains(PathPart);
-		});
+		FFileFaults::SetHook(
+			[Operation, PathPart](EFileOperation Each, const FString& Path) { return Each != Operation || !Path.Contains(PathPart); });
 	}
 	~FFault() { FFileFaults::SetHook({}); }
 };
@@ -116,7 +115,9 @@ TEST(FileFaults, AFileThatVanishesBeforeItsDeleteFails)
 {
 	FTestProject Project;
 	Project.Write("a.txt", "old");
-	FFileFaults::SetHook([&Project](EFileOperation Operation, const FString& Path) {
+	FFileFaults::SetHook(
+		[&Project](EFileOperation Operation, const FString& Path)
+		{
 		if (Operation == EFileOperation::DeleteFile && Path.EndsWith(TEXT("a.txt")))
 		{
 			std::filesystem::remove(Project.Folder() / "a.txt");
@@ -149,7 +150,9 @@ void RunAndKillAt(EFileOperation Operation, const TCHAR* PathPart)
 	const pid_t Child = fork();
 	if (Child == 0)
 	{
-		FFileFaults::SetHook([Operation, PathPart](EFileOperation Each, const FString& Path) {
+		FFileFaults::SetHook(
+			[Operation, PathPart](EFileOperation Each, const FString& Path)
+			{
 			if (Each == Operation && Path.Contains(PathPart))
 			{
 				raise(SIGKILL);

@@ -120,9 +120,8 @@ TEST(FileHistory, OneFailureDoesNotStopTheOthers)
 		History().StoreFileVersion(TEXT("c"), Path, TEXT("before"));
 		Project.Write(ToUtf8(Path), "after");
 	}
-	FFileFaults::SetHook([](EFileOperation Operation, const FString& Path) {
-		return Operation != EFileOperation::OpenWrite || !Path.EndsWith(TEXT("/b"));
-	});
+	FFileFaults::SetHook(
+		[](EFileOperation Operation, const FString& Path) { return Operation != EFileOperation::OpenWrite || !Path.EndsWith(TEXT("/b")); });
 	EXPECT_FALSE(History().UndoAllChanges(TEXT("c")));
 	FFileFaults::SetHook({});
 	EXPECT_EQ(Project.Read("a"), Bom + "before");
@@ -174,8 +173,7 @@ TEST(Undo, TakesBackAConversationOnceItHasEnded)
 TEST(Undo, AFailureLeavesItToBeTriedAgain)
 {
 	FConversation Talk;
-	Talk.StartAndFinishWith(
-		R"({"type":"tool_use","name":"create_file","id":"2","input":{"path":"b.txt","file_text":"b"}})", true);
+	Talk.StartAndFinishWith(R"({"type":"tool_use","name":"create_file","id":"2","input":{"path":"b.txt","file_text":"b"}})", true);
 	FKestrinInterface::Get().EndRequest(FString());
 	FFileFaults::SetHook([](EFileOperation Operation, const FString&) { return Operation != EFileOperation::DeleteFile; });
 	FKestrinInterface::Get().UndoLastOperation();

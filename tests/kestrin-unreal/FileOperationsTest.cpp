@@ -63,10 +63,10 @@ TEST(FileOperations, ReadingByLines)
 			"Error: Invalid line range for file: a.txt (StartLine: 1, EndLine: 0, Total Lines: 10)", TenLines },
 		{ "an end below", TenLines, &ReadRange<5, -7>,
 			"Error: Invalid line range for file: a.txt (StartLine: 5, EndLine: -7, Total Lines: 10)", TenLines },
-		{ "backwards", TenLines, &ReadRange<5, 4>,
-			"Error: Invalid line range for file: a.txt (StartLine: 5, EndLine: 4, Total Lines: 10)", TenLines },
-		{ "an empty file", "", &ReadRange<1, -1>,
-			"Error: Invalid line range for file: a.txt (StartLine: 1, EndLine: 0, Total Lines: 0)", "" },
+		{ "backwards", TenLines, &ReadRange<5, 4>, "Error: Invalid line range for file: a.txt (StartLine: 5, EndLine: 4, Total Lines: 10)",
+			TenLines },
+		{ "an empty file", "", &ReadRange<1, -1>, "Error: Invalid line range for file: a.txt (StartLine: 1, EndLine: 0, Total Lines: 0)",
+			"" },
 		{ "no file", nullptr, &ReadRange<1, -1>, "Error: File does not exist: {DIR}a.txt", "<none>" },
 	};
 	RunAll(Cases);
@@ -102,8 +102,8 @@ TEST(FileOperations, CreatingReplacingDeleting)
 		{ "replace nothing", nullptr, [] { return FFileUtils::ReplaceFile(TEXT("a.txt"), TEXT("new")); },
 			"Error: File does not exist: {DIR}a.txt", "<none>" },
 		{ "delete", "old", [] { return FFileUtils::DeleteFile(TEXT("a.txt")); }, "Successfully deleted file: a.txt", "<none>" },
-		{ "delete nothing", nullptr, [] { return FFileUtils::DeleteFile(TEXT("a.txt")); },
-			"Error: File does not exist at path: a.txt", "<none>" },
+		{ "delete nothing", nullptr, [] { return FFileUtils::DeleteFile(TEXT("a.txt")); }, "Error: File does not exist at path: a.txt",
+			"<none>" },
 	};
 	RunAll(Cases);
 }
@@ -189,8 +189,7 @@ TEST(FileOperations, UpdatingTellsBothTexts)
 	Project.Write("a.txt", "old");
 	FString Old;
 	FString New;
-	EXPECT_EQ(ToUtf8(FFileUtils::UpdateFile(TEXT("none.txt"), TEXT("o"), TEXT("x"), Old, New)),
-		"Error: File does not exist: none.txt");
+	EXPECT_EQ(ToUtf8(FFileUtils::UpdateFile(TEXT("none.txt"), TEXT("o"), TEXT("x"), Old, New)), "Error: File does not exist: none.txt");
 	EXPECT_TRUE(Old.IsEmpty());
 	FFileUtils::UpdateFile(TEXT("a.txt"), TEXT("nowhere"), TEXT("x"), Old, New);
 	EXPECT_EQ(ToUtf8(Old), "old");
@@ -221,11 +220,12 @@ TEST(FileOperations, AReadOnlyFileIsNeitherChangedNorDeleted)
 	FString Old;
 	FString New;
 	EXPECT_EQ(ToUtf8(FFileUtils::ReplaceFile(TEXT("a.txt"), TEXT("x"))), "Error: Failed to delete existing file: " + FullPath);
-	EXPECT_EQ(ToUtf8(FFileUtils::UpdateFile(TEXT("a.txt"), TEXT("old"), TEXT("x"), Old, New)),
-		"Error: Failed to delete existing file: a.txt");
+	EXPECT_EQ(
+		ToUtf8(FFileUtils::UpdateFile(TEXT("a.txt"), TEXT("old"), TEXT("x"), Old, New)), "Error: Failed to delete existing file: a.txt");
 	EXPECT_EQ(ToUtf8(FFileUtils::InsertIntoFile(TEXT("a.txt"), 0, TEXT("x"))), "Error: Failed to delete existing file: a.txt");
 	EXPECT_EQ(ToUtf8(FFileUtils::DeleteFile(TEXT("a.txt"))), "Error: Failed to delete file: a.txt");
 	EXPECT_EQ(Project.Read("a.txt"), "old");
-	EXPECT_FALSE(Project.Has("Plugins/kestrin-unreal/Saved/Rewrites") && !std::filesystem::is_empty(Project.Folder() / "Plugins/kestrin-unreal/Saved/Rewrites"));
+	EXPECT_FALSE(Project.Has("Plugins/kestrin-unreal/Saved/Rewrites") &&
+		!std::filesystem::is_empty(Project.Folder() / "Plugins/kestrin-unreal/Saved/Rewrites"));
 }
 }

@@ -38,8 +38,7 @@ public:
 	/** "none", or the action and content recorded for a path. */
 	std::string Record(const TCHAR* Path) const
 	{
-		const TMap<FString, FFileHistoryEntry>* Files =
-			FFileHistory::Get().GetFileHistories().Find(FAgent::Get().GetUndoConversationId());
+		const TMap<FString, FFileHistoryEntry>* Files = FFileHistory::Get().GetFileHistories().Find(FAgent::Get().GetUndoConversationId());
 		const FFileHistoryEntry* Entry = Files ? Files->Find(FString(Path)) : nullptr;
 		static const char* const Actions[] = { "None", "Creation", "Modification", "Deletion" };
 		return Entry ? std::string(Actions[static_cast<int>(Entry->ActionType)]) + "|" + ToUtf8(Entry->Content) : "none";
@@ -108,10 +107,10 @@ TEST(FileTools, EachChangeIsRecordedAndShown)
 			TEXT("d/n.txt"), "Creation|x" },
 		{ "create what is there", "create_file", R"({"path":"a.txt","file_text":"x"})", "Successfully replaced file: a.txt",
 			{ "diff|a.txt|" + Text + "|x" }, TEXT("a.txt"), "Modification|" + Text },
-		{ "create without a name", "create_file", R"({"path":"d/","file_text":"x"})",
-			"Error: The provided path must include a filename", {}, TEXT("d/"), "none" },
-		{ "create with an empty path", "create_file", R"({"path":"","file_text":"x"})",
-			"Error: The provided path must include a filename", {}, TEXT(""), "none" },
+		{ "create without a name", "create_file", R"({"path":"d/","file_text":"x"})", "Error: The provided path must include a filename",
+			{}, TEXT("d/"), "none" },
+		{ "create with an empty path", "create_file", R"({"path":"","file_text":"x"})", "Error: The provided path must include a filename",
+			{}, TEXT(""), "none" },
 		{ "create with a number for a text", "create_file", R"({"path":"n.txt","file_text":5})", "File created successfully: n.txt",
 			{ "diff|n.txt||5" }, TEXT("n.txt"), "Creation|5" },
 		{ "create below a file", "create_file", R"({"path":"a.txt/b/n.txt","file_text":"x"})",
@@ -140,12 +139,12 @@ TEST(FileTools, EachChangeIsRecordedAndShown)
 			"Modification|" + Text },
 		{ "insert before the file", "insert_into_file", R"({"path":"a.txt","insert_line":"-1","new_string":"x"})",
 			"Error: insert_line must be a non-negative integer.", {}, TEXT("a.txt"), "none" },
-		{ "delete", "delete_file", R"({"path":"a.txt"})", "Successfully deleted file: a.txt", { "diff|a.txt|" + Text + "|" },
-			TEXT("a.txt"), "Deletion|" + Text },
+		{ "delete", "delete_file", R"({"path":"a.txt"})", "Successfully deleted file: a.txt", { "diff|a.txt|" + Text + "|" }, TEXT("a.txt"),
+			"Deletion|" + Text },
 		{ "delete nothing", "delete_file", R"({"path":"n.txt"})", "Error: File does not exist at path: n.txt", {}, TEXT("n.txt"), "none" },
 		{ "delete C++", "delete_cpp_file", R"({"filepath":"Source/Game/Deep/","filename":"Hero.h"})",
-			"Successfully deleted file: Source/Game/Deep/Hero.h",
-			{ "progress|Deleting File...", "diff|Source/Game/Deep/Hero.h|hero\n|" }, TEXT("Source/Game/Deep/Hero.h"), "Deletion|hero\n" },
+			"Successfully deleted file: Source/Game/Deep/Hero.h", { "progress|Deleting File...", "diff|Source/Game/Deep/Hero.h|hero\n|" },
+			TEXT("Source/Game/Deep/Hero.h"), "Deletion|hero\n" },
 		{ "delete C++ that is not there", "delete_cpp_file", R"({"filepath":"Source","filename":"Hero.h"})",
 			"Error: File does not exist at path: Source/Hero.h", { "progress|Deleting File..." }, TEXT("Source/Hero.h"), "none" },
 	};
@@ -177,7 +176,8 @@ TEST(FileTools, Reading)
 		{ R"({"path":"a.txt"})", "one\ntwo\n" },
 		{ R"({"path":"a.txt","view_range":[2,-1]})", "two" },
 		{ R"({"path":"a.txt","view_range":[1.9,"1"]})", "one" },
-		{ R"({"path":"a.txt","view_range":[3,9]})", "Error: Invalid line range for file: a.txt (StartLine: 3, EndLine: 2, Total Lines: 2)" },
+		{ R"({"path":"a.txt","view_range":[3,9]})",
+			"Error: Invalid line range for file: a.txt (StartLine: 3, EndLine: 2, Total Lines: 2)" },
 		// No range at all: the whole file.
 		{ R"({"path":"a.txt","view_range":[0,5]})", "one\ntwo\n" },
 		{ R"({"path":"a.txt","view_range":[3]})", "one\ntwo\n" },
@@ -208,7 +208,7 @@ TEST(FileTools, AbsurdInputIsTakenAsItIs)
 	EXPECT_EQ(Talk.Run("create_file", R"({"path":")" + std::string(5000, 'p') + R"(","file_text":"x"})"),
 		"Error: Failed to create file: " + std::string(5000, 'p'));
 	EXPECT_EQ(Talk.Run("read_file", R"({"path":")" + std::string(5000, 'p') + R"("})"), "Error: File not found");
-	EXPECT_EQ(Talk.Run("update_file", R"({"path":"a.txt","old_string":"\ud800","new_string":"x"})"),
-		"Error: String not found in file: a.txt");
+	EXPECT_EQ(
+		Talk.Run("update_file", R"({"path":"a.txt","old_string":"\ud800","new_string":"x"})"), "Error: String not found in file: a.txt");
 }
 }

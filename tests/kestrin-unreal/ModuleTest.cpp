@@ -63,8 +63,7 @@ const FStageCase Stages[] = {
 	{ "BadLines", "no section\n[Kestrin\n[Kestrin]\nStage=Dev\n===\n\"\nDevApiUrl=d.example\nDevApiKey=\n", "d.example", "settings-key" },
 };
 
-INSTANTIATE_TEST_SUITE_P(
-	Module, StageFile, testing::ValuesIn(Stages), [](const auto& Info) { return std::string(Info.param.Name); });
+INSTANTIATE_TEST_SUITE_P(Module, StageFile, testing::ValuesIn(Stages), [](const auto& Info) { return std::string(Info.param.Name); });
 
 TEST(Module, StartsInIdleAndCancelsAtItsEnd)
 {
@@ -148,8 +147,7 @@ TEST(PromptLog, RecordsGoToTheDaysFile)
 	Interface.KestrinInterfaceLogString(TEXT("plain"), First, false);
 	const std::string Text = ToUtf8(First);
 	EXPECT_EQ(Text.substr(Text.size() - 29), "KestrinPrompts_2026-03-01.log") << "the test runs in UTC";
-	EXPECT_EQ(Project.Read(Project.Directory + "KestrinPrompts_2026-03-01.log"),
-		"\xEF\xBB\xBF\n[23:59:30] 100% \xC3\xA4 %s\n\nplain\n");
+	EXPECT_EQ(Project.Read(Project.Directory + "KestrinPrompts_2026-03-01.log"), "\xEF\xBB\xBF\n[23:59:30] 100% \xC3\xA4 %s\n\nplain\n");
 	FHostClock::SetDate(FDateTime(2026, 3, 2, 0, 0, 1));
 	EXPECT_NE(ToUtf8(Interface.GetPromptLogFilePath()), Text);
 	FHostClock::ClearDate();

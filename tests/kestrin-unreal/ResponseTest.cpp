@@ -48,8 +48,8 @@ TEST(Response, TheModeAndTheServiceDecideWhatRuns)
 		{ "a call behind finish runs, implementing", Implement, R"({"response":[)" + std::string(Finish) + "," + Read + "]}",
 			"AwaitingUpdate", Results(FinishResult + std::string(",") + ReadResult), 0 },
 		{ "no blocks", Explain, R"({"auto_continue":true,"messages":[{"role":"user"}]})", "PollResponse", "", 0 },
-		{ "odd elements", Explain, R"({"response":[null,7,"x",[],{},{"type":"image"},{"type":"text"},{"type":7}]})", "AwaitingApproval",
-			"", 0 },
+		{ "odd elements", Explain, R"({"response":[null,7,"x",[],{},{"type":"image"},{"type":"text"},{"type":7}]})", "AwaitingApproval", "",
+			0 },
 	};
 	for (const FAnswerCase& Case : Cases)
 	{
@@ -150,8 +150,8 @@ TEST(Response, TextBehindACallIsShownAfterTheCall)
 	Talk.WaitForPoll();
 	Talk.Forget();
 	Talk.Answer(200,
-		std::string(R"({"status":"COMPLETED","response":{"auto_continue":true,"response":[)") + Read
-			+ R"(,{"type":"text","text":"Read it."}]}})");
+		std::string(R"({"status":"COMPLETED","response":{"auto_continue":true,"response":[)") + Read +
+			R"(,{"type":"text","text":"Read it."}]}})");
 	EXPECT_THAT(Talk.Chat, ElementsAre("progress|Reading File...", "assistant| [ Kestrin ] \n\nRead it.\n", "progress|Sending request..."));
 }
 }

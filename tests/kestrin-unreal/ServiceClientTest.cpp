@@ -76,8 +76,8 @@ TEST(ServiceClient, PollsWithTwoHeadersAfterTheGivenWaits)
 	const FScriptedRequest& Poll = Talk.LastRequest();
 	EXPECT_EQ(ToUtf8(Poll.Verb), "GET");
 	EXPECT_EQ(ToUtf8(Poll.Url), "https://api.kestrin.example/prod/status?request_id=id-7");
-	EXPECT_EQ(Poll.Headers,
-		(TArray<FHeader>{ { TEXT("x-api-key"), TEXT("") }, { TEXT("conversation-id"), FAgent::Get().GetConversationId() } }));
+	EXPECT_EQ(
+		Poll.Headers, (TArray<FHeader>{ { TEXT("x-api-key"), TEXT("") }, { TEXT("conversation-id"), FAgent::Get().GetConversationId() } }));
 }
 
 TEST(ServiceClient, ANewCommandStartsTheWaitsAnew)
@@ -227,7 +227,8 @@ TEST(ServiceClient, ALateAnswerToACommandIsDropped)
 	Talk.Accept("new");
 	Talk.WaitForPoll();
 	EXPECT_THAT(ToUtf8(Talk.LastRequest().Url), HasSubstr("request_id=new"));
-	EXPECT_THAT(Talk.Chat, ElementsAre("user| [ User Start ]\n\nSecond\n", "progress|Sending request...", "progress|Processing request..."));
+	EXPECT_THAT(
+		Talk.Chat, ElementsAre("user| [ User Start ]\n\nSecond\n", "progress|Sending request...", "progress|Processing request..."));
 }
 
 TEST(ServiceClient, ALatePollAnswerNeverReachesTheNextRequest)

@@ -84,11 +84,11 @@ TEST(Settings, TheClassIsFoundWhereTheEditorLooksForIt)
 TEST(Settings, EnumsCarryTheirTexts)
 {
 	EXPECT_EQ(ToUtf8(StaticEnum<EKestrinMode>()->GetDisplayNameTextByValue(1).ToString()), "Explainer And Implementer Mode");
-	EXPECT_EQ(ToUtf8(StaticEnum<EKestrinLogDeletionPolicy>()->GetToolTipTextByIndex(1).ToString()),
-		"Maintains a rolling 30-day log history");
+	EXPECT_EQ(
+		ToUtf8(StaticEnum<EKestrinLogDeletionPolicy>()->GetToolTipTextByIndex(1).ToString()), "Maintains a rolling 30-day log history");
 	EXPECT_EQ(ToUtf8(StaticEnum<EAssetGroupCategory>()->GetDisplayNameTextByValue(19).ToString()), "VR/AR Assets");
-	EXPECT_EQ(ToUtf8(StaticEnum<EKestrinBlueprintContentFilter>()->GetDisplayNameTextByValue(2).ToString()),
-		"Use Only Blueprint Class Content");
+	EXPECT_EQ(
+		ToUtf8(StaticEnum<EKestrinBlueprintContentFilter>()->GetDisplayNameTextByValue(2).ToString()), "Use Only Blueprint Class Content");
 }
 
 TEST(Settings, AResetBoxRestoresItsListClearsItselfAndSaves)

@@ -10,9 +10,8 @@
 FHeadlessFace::FHeadlessFace()
 {
 	FKestrinInterface& Interface = FKestrinInterface::Get();
-	Interface.OnAddStatusMessageDelegate.BindLambda([](FString Text, FLinearColor Color, FName FontName, float FontSize) {
-		WriteStatusEvent(Text, Color, FontName, FontSize);
-	});
+	Interface.OnAddStatusMessageDelegate.BindLambda(
+		[](FString Text, FLinearColor Color, FName FontName, float FontSize) { WriteStatusEvent(Text, Color, FontName, FontSize); });
 	Interface.OnAddDiffMessageDelegate.BindLambda(
 		[](FString Path, FString OldContent, FString NewContent) { WriteDiffEvent(Path, OldContent, NewContent); });
 	StateHandle = FAgent::Get().OnAgentStateChanged.AddStatic(&WriteStateEvent);

@@ -57,9 +57,8 @@ bool SetSettingsField(const FString& Name, const FJsonValue& Value, bool bSave, 
 	FString Kept;
 	Property->ExportTextItem_Direct(Kept, Field, nullptr, Settings, PPF_None);
 	FString Text;
-	const TCHAR* const End = ToPropertyText(Value, Text) && IsOfType(Value, *Property)
-		? Property->ImportText_Direct(*Text, Field, Settings, PPF_None)
-		: nullptr;
+	const TCHAR* const End =
+		ToPropertyText(Value, Text) && IsOfType(Value, *Property) ? Property->ImportText_Direct(*Text, Field, Settings, PPF_None) : nullptr;
 	if (!End || *End)
 	{
 		// A list may have been read in part.

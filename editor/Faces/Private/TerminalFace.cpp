@@ -25,16 +25,22 @@ FTerminalFace::FTerminalFace()
 	: bInteractive(isatty(STDIN_FILENO))
 {
 	FKestrinInterface& Interface = FKestrinInterface::Get();
-	Interface.OnAddStatusMessageDelegate.BindLambda([this](FString Text, FLinearColor, FName FontName, float) {
+	Interface.OnAddStatusMessageDelegate.BindLambda(
+		[this](FString Text, FLinearColor, FName FontName, float)
+		{
 		bPromptShown = false;
 		bCommandOnItsWay |= Text == TEXT("Sending request...");
 		Style.PrintLine(Text, GetChatLook(FontName));
 	});
-	Interface.OnAddDiffMessageDelegate.BindLambda([this](FString Path, FString OldContent, FString NewContent) {
+	Interface.OnAddDiffMessageDelegate.BindLambda(
+		[this](FString Path, FString OldContent, FString NewContent)
+		{
 		bPromptShown = false;
 		Style.PrintDiff(Path, OldContent, NewContent);
 	});
-	StateHandle = FAgent::Get().OnAgentStateChanged.AddLambda([this] {
+	StateHandle = FAgent::Get().OnAgentStateChanged.AddLambda(
+		[this]
+		{
 		const EAgentState State = FAgent::Get().GetState();
 		bCommandOnItsWay &= State != EAgentState::PollRequest && State != EAgentState::Idle;
 	});

@@ -9,9 +9,7 @@ namespace
 {
 std::string LookOf(const FName& FontName)
 {
-	return FontName == FKestrinInterface::RegularFontName ? "user"
-		: FontName == FKestrinInterface::BoldFontName     ? "assistant"
-														  : "progress";
+	return FontName == FKestrinInterface::RegularFontName ? "user" : FontName == FKestrinInterface::BoldFontName ? "assistant" : "progress";
 }
 
 /** Enters Idle anew from any state, so that nothing of an earlier test is left running. */
@@ -30,12 +28,10 @@ FConversation::FConversation(std::string_view ProjectName)
 	FAgent::Get().ClearToolResults();
 	FKestrinInterface& Interface = FKestrinInterface::Get();
 	Interface.Initialize();
-	Interface.OnAddStatusMessageDelegate.BindLambda([this](FString Text, FLinearColor, FName FontName, float) {
-		Chat.push_back(LookOf(FontName) + "|" + ToUtf8(Text));
-	});
-	Interface.OnAddDiffMessageDelegate.BindLambda([this](FString Path, FString Old, FString New) {
-		Chat.push_back("diff|" + ToUtf8(Path) + "|" + ToUtf8(Old) + "|" + ToUtf8(New));
-	});
+	Interface.OnAddStatusMessageDelegate.BindLambda(
+		[this](FString Text, FLinearColor, FName FontName, float) { Chat.push_back(LookOf(FontName) + "|" + ToUtf8(Text)); });
+	Interface.OnAddDiffMessageDelegate.BindLambda(
+		[this](FString Path, FString Old, FString New) { Chat.push_back("diff|" + ToUtf8(Path) + "|" + ToUtf8(Old) + "|" + ToUtf8(New)); });
 	StateHandle = FAgent::Get().OnAgentStateChanged.AddLambda([this] { States.push_back(State()); });
 }
 

@@ -22,9 +22,7 @@ void UKestrinSettings::ResetExcludedDirectories()
 		TEXT("Build"), TEXT("DerivedDataCache"), TEXT("Engine"), TEXT("Shared"), TEXT(".git") };
 }
 
-void UKestrinSettings::ResetAssetGroups()
-{
-}
+void UKestrinSettings::ResetAssetGroups() {}
 
 TSet<FName> UKestrinSettings::GetEnabledAssetClassPatterns() const
 {

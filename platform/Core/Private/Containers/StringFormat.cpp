@@ -46,7 +46,10 @@ public:
 	}
 
 private:
-	static bool IsOneOf(TCHAR Char, const char* Set) { return Char && Char < 128 && std::string_view(Set).find(static_cast<char>(Char)) != std::string_view::npos; }
+	static bool IsOneOf(TCHAR Char, const char* Set)
+	{
+		return Char && Char < 128 && std::string_view(Set).find(static_cast<char>(Char)) != std::string_view::npos;
+	}
 
 	int ReadNumber(FConversion& Conversion)
 	{

@@ -64,8 +64,8 @@ private:
 	bool Matches(std::u16string_view Text, SIZE_T Place) const
 	{
 		const TCHAR First = Text[Place];
-		return (First == FirstLower || First == FirstUpper || FChar::ToLower(First) == FirstLower)
-			&& FString::EqualsIgnoringCase(Text.substr(Place, Needle.size()), Needle);
+		return (First == FirstLower || First == FirstUpper || FChar::ToLower(First) == FirstLower) &&
+			FString::EqualsIgnoringCase(Text.substr(Place, Needle.size()), Needle);
 	}
 
 	std::u16string_view Needle;
@@ -200,8 +200,7 @@ int32 FString::Compare(const FString& Other, ESearchCase::Type SearchCase) const
 	return Len() - Other.Len();
 }
 
-int32 FString::Find(
-	const FString& Text, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir, int32 StartPosition) const
+int32 FString::Find(const FString& Text, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir, int32 StartPosition) const
 {
 	const FSearcher Searcher(Text.View(), SearchCase);
 	SIZE_T Found;

@@ -114,6 +114,6 @@ void FDirectoryListing::NoteState(int Descriptor)
 bool FDirectoryListing::IsCurrent(const std::string& OtherPath) const
 {
 	struct stat Stat;
-	return Path == OtherPath && ChangedAt != 0 && ::stat(Path.c_str(), &Stat) == 0 && Identity == FDirectoryIdentity{ Stat.st_dev, Stat.st_ino }
-		&& ToNanoseconds(Stat.st_mtim) == ChangedAt;
+	return Path == OtherPath && ChangedAt != 0 && ::stat(Path.c_str(), &Stat) == 0 &&
+		Identity == FDirectoryIdentity{ Stat.st_dev, Stat.st_ino } && ToNanoseconds(Stat.st_mtim) == ChangedAt;
 }

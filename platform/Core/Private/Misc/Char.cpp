@@ -38,8 +38,8 @@ struct FCaseTables
 
 bool FChar::IsWideWhitespace(TCHAR Char)
 {
-	return Char == 0x1680 || (Char >= 0x2000 && Char <= 0x200A) || Char == 0x2028 || Char == 0x2029 || Char == 0x202F || Char == 0x205F
-		|| Char == 0x3000;
+	return Char == 0x1680 || (Char >= 0x2000 && Char <= 0x200A) || Char == 0x2028 || Char == 0x2029 || Char == 0x202F || Char == 0x205F ||
+		Char == 0x3000;
 }
 
 TCHAR FChar::ToLowerWide(TCHAR Char)

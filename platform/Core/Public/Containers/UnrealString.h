@@ -131,8 +131,8 @@ public:
 	int32 Compare(const FString& Other, ESearchCase::Type SearchCase = ESearchCase::CaseSensitive) const;
 
 	/** @return the index of the first character of the place found, or INDEX_NONE */
-	int32 Find(const TCHAR* Text, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase, ESearchDir::Type SearchDir = ESearchDir::FromStart,
-		int32 StartPosition = INDEX_NONE) const;
+	int32 Find(const TCHAR* Text, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase,
+		ESearchDir::Type SearchDir = ESearchDir::FromStart, int32 StartPosition = INDEX_NONE) const;
 	int32 Find(const FString& Text, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase,
 		ESearchDir::Type SearchDir = ESearchDir::FromStart, int32 StartPosition = INDEX_NONE) const;
 	bool Contains(const FString& Text, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const

@@ -10,10 +10,7 @@ struct CORE_API FChar
 		return Char == ' ' || (Char >= 9 && Char <= 13) || Char == 0x85 || Char == 0xA0 || (Char > 0x1000 && IsWideWhitespace(Char));
 	}
 	static constexpr bool IsDigit(TCHAR Char) { return Char >= '0' && Char <= '9'; }
-	static constexpr bool IsHexDigit(TCHAR Char)
-	{
-		return IsDigit(Char) || (Char >= 'a' && Char <= 'f') || (Char >= 'A' && Char <= 'F');
-	}
+	static constexpr bool IsHexDigit(TCHAR Char) { return IsDigit(Char) || (Char >= 'a' && Char <= 'f') || (Char >= 'A' && Char <= 'F'); }
 	static constexpr bool IsUpperAscii(TCHAR Char) { return Char >= 'A' && Char <= 'Z'; }
 	static constexpr bool IsLowerAscii(TCHAR Char) { return Char >= 'a' && Char <= 'z'; }
 	static bool IsUpper(TCHAR Char) { return Char != ToLower(Char); }

@@ -40,33 +40,28 @@ public:
 	{
 	}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TSharedPtr(const TSharedPtr<U, Mode>& Other)
+	requires std::is_convertible_v<U*, T*> TSharedPtr(const TSharedPtr<U, Mode>& Other)
 		: Owner(Other.Owner)
 	{
 	}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TSharedPtr(TSharedPtr<U, Mode>&& Other)
+	requires std::is_convertible_v<U*, T*> TSharedPtr(TSharedPtr<U, Mode>&& Other)
 		: Owner(std::move(Other.Owner))
 	{
 	}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TSharedPtr(const TSharedRef<U, Mode>& Other)
+	requires std::is_convertible_v<U*, T*> TSharedPtr(const TSharedRef<U, Mode>& Other)
 		: Owner(Other.Owner)
 	{
 	}
 	/** Takes the reference over, which must not be used any more. */
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TSharedPtr(TSharedRef<U, Mode>&& Other)
+	requires std::is_convertible_v<U*, T*> TSharedPtr(TSharedRef<U, Mode>&& Other)
 		: Owner(std::move(Other.Owner))
 	{
 	}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TSharedPtr(TRawShareable<U>&& Raw)
+	requires std::is_convertible_v<U*, T*> TSharedPtr(TRawShareable<U>&& Raw)
 		: Owner(std::move(Raw.Owner))
 	{
 	}
@@ -119,14 +114,12 @@ public:
 		check(Owner);
 	}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TSharedRef(const TSharedRef<U, Mode>& Other)
+	requires std::is_convertible_v<U*, T*> TSharedRef(const TSharedRef<U, Mode>& Other)
 		: Owner(Other.Owner)
 	{
 	}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TSharedRef(TRawShareable<U>&& Raw)
+	requires std::is_convertible_v<U*, T*> TSharedRef(TRawShareable<U>&& Raw)
 		: Owner(std::move(Raw.Owner))
 	{
 		check(Owner);
@@ -165,14 +158,12 @@ public:
 	TWeakPtr() = default;
 	TWeakPtr(std::nullptr_t) {}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TWeakPtr(const TSharedPtr<U, Mode>& Other)
+	requires std::is_convertible_v<U*, T*> TWeakPtr(const TSharedPtr<U, Mode>& Other)
 		: Watcher(Other.Owner)
 	{
 	}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TWeakPtr(const TSharedRef<U, Mode>& Other)
+	requires std::is_convertible_v<U*, T*> TWeakPtr(const TSharedRef<U, Mode>& Other)
 		: Watcher(Other.Owner)
 	{
 	}

@@ -21,8 +21,7 @@ constexpr uint32 HashCombine(uint32 A, uint32 B)
 }
 
 template <typename T>
-	requires(std::is_integral_v<T> || std::is_enum_v<T>)
-constexpr uint32 GetTypeHash(T Value)
+requires(std::is_integral_v<T> || std::is_enum_v<T>) constexpr uint32 GetTypeHash(T Value)
 {
 	const auto Wide = static_cast<uint64>(Value);
 	return MurmurFinalize32(static_cast<uint32>(Wide) ^ static_cast<uint32>(Wide >> 32));

@@ -16,8 +16,7 @@ public:
 	{
 	}
 	template <typename U>
-		requires std::is_convertible_v<U*, T*>
-	TUniquePtr(TUniquePtr<U>&& Other)
+	requires std::is_convertible_v<U*, T*> TUniquePtr(TUniquePtr<U>&& Other)
 		: Pointer(Other.Release())
 	{
 	}

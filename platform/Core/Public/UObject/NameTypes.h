@@ -42,10 +42,7 @@ public:
 	int32 Compare(const FName& Other) const;
 	bool LexicalLess(const FName& Other) const { return Compare(Other) < 0; }
 
-	friend uint32 GetTypeHash(const FName& Name)
-	{
-		return MurmurFinalize32(Name.ComparisonIndex * 31u + static_cast<uint32>(Name.Number));
-	}
+	friend uint32 GetTypeHash(const FName& Name) { return MurmurFinalize32(Name.ComparisonIndex * 31u + static_cast<uint32>(Name.Number)); }
 
 private:
 	void Init(std::u16string_view Text);

@@ -23,8 +23,8 @@ int32 HexValue(TCHAR Char)
 }
 
 /** 10 to the powers that a double holds exactly. */
-constexpr double ExactPowers[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17,
-	1e18, 1e19, 1e20, 1e21, 1e22 };
+constexpr double ExactPowers[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18,
+	1e19, 1e20, 1e21, 1e22 };
 
 /** Makes the values of one document. */
 class FValueMaker

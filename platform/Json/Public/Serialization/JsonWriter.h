@@ -99,7 +99,7 @@ private:
 	void Append(const TCHAR* Value) { FJsonText::AppendString(Out, Value); }
 	void Append(std::nullptr_t) { Out += TEXT("null"); }
 	template <typename NumberType>
-		requires std::is_arithmetic_v<NumberType>
+	requires std::is_arithmetic_v<NumberType>
 	void Append(NumberType Value)
 	{
 		if constexpr (std::is_same_v<NumberType, bool>)

@@ -121,8 +121,8 @@ void FHttpApi::SendCommand(const FString& Body)
 	CommandsInFlight.Add(Request);
 	Request->ProcessRequest();
 
-	OnStatusMessage.ExecuteIfBound(TEXT("Sending request..."), FKestrinInterface::MessageColor, FKestrinInterface::ItalicFontName,
-		FKestrinInterface::MessageFontSize);
+	OnStatusMessage.ExecuteIfBound(
+		TEXT("Sending request..."), FKestrinInterface::MessageColor, FKestrinInterface::ItalicFontName, FKestrinInterface::MessageFontSize);
 }
 
 void FHttpApi::DropCommands()

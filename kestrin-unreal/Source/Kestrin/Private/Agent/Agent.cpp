@@ -17,15 +17,13 @@ FAgent& FAgent::Get()
 FAgent::FAgent()
 {
 	FHttpApi& Api = FHttpApi::Get();
-	Api.OnStatusMessage.BindLambda([](FString Text, FLinearColor Color, FName FontName, float FontSize) {
-		FKestrinInterface::Get().OnAddStatusMessage(Text, Color, FontName, FontSize);
-	});
+	Api.OnStatusMessage.BindLambda([](FString Text, FLinearColor Color, FName FontName, float FontSize)
+		{ FKestrinInterface::Get().OnAddStatusMessage(Text, Color, FontName, FontSize); });
 	Api.OnRequestFailed.BindRaw(this, &FAgent::RequestCancel);
 	Api.OnRequestAccepted.BindLambda([this] { SetState(EAgentState::PollRequest); });
 	Api.OnResponseReady.BindRaw(this, &FAgent::HandleServiceResponse);
 	Api.OnServiceError.BindLambda([this](const FString& Error) { RequestCancel(FString::Printf(TEXT("Request failed: %s"), *Error)); });
-	Api.OnPollSent.BindLambda(
-		[this] { ShowProgressLine(bPauseRequested ? TEXT("Pausing request...") : TEXT("Processing request...")); });
+	Api.OnPollSent.BindLambda([this] { ShowProgressLine(bPauseRequested ? TEXT("Pausing request...") : TEXT("Processing request...")); });
 }
 
 FAgent::~FAgent()
@@ -60,8 +58,8 @@ void FAgent::EnterState(EAgentState NewState, const FString& Message)
 	case EAgentState::AwaitingApproval:
 	case EAgentState::Approved: break;
 	case EAgentState::Indexing:
-		FFileUtils::GetSubDirectoryStructureAsJsonObjectAsync(FPaths::ProjectDir(),
-			FOnDirectoryStructureReady::CreateLambda([this](const FString&) { SetState(EAgentState::Idle); }));
+		FFileUtils::GetSubDirectoryStructureAsJsonObjectAsync(
+			FPaths::ProjectDir(), FOnDirectoryStructureReady::CreateLambda([this](const FString&) { SetState(EAgentState::Idle); }));
 		break;
 	case EAgentState::Idle: EnterIdle(); break;
 	case EAgentState::InitialRequest: StartConversation(Message); break;
@@ -110,8 +108,8 @@ void FAgent::ContinueConversation(const FString& Message)
 	// A tool may move the machine on, but it adds nothing to the queue; the queue is emptied only after all have been answered.
 	const TArray<TSharedPtr<FJsonObject>> Queued = PendingTools;
 	const bool bRunQueued = Message.IsEmpty();
-	ShowUserLine(bRunQueued ? FString(TEXT(" [ User ]\n\nThe process has been resumed.\n"))
-							: FString::Printf(TEXT(" [ User ]\n\n%s\n"), *Message));
+	ShowUserLine(
+		bRunQueued ? FString(TEXT(" [ User ]\n\nThe process has been resumed.\n")) : FString::Printf(TEXT(" [ User ]\n\n%s\n"), *Message));
 	for (const TSharedPtr<FJsonObject>& Block : Queued)
 	{
 		bRunQueued ? ExecuteTool(Block) : AbortTool(Block);

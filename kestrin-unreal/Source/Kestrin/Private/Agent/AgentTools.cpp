@@ -54,8 +54,8 @@ FString FAgent::RunTool(const FString& ToolName, const FString& ToolId, TSharedP
 	{
 		return TEXT("Error: Invalid input");
 	}
-	const FTool* const Tool = FToolTable::Get().FindByPredicate(
-		[&ToolName](const FTool& Each) { return ToolName.Equals(Each.Name, ESearchCase::IgnoreCase); });
+	const FTool* const Tool =
+		FToolTable::Get().FindByPredicate([&ToolName](const FTool& Each) { return ToolName.Equals(Each.Name, ESearchCase::IgnoreCase); });
 	return Tool ? RunTool(*Tool, ToolId, Input) : FString::Printf(TEXT("Error: Unknown tool '%s'"), *ToolName);
 }
 

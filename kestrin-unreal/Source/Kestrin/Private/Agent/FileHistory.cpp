@@ -65,8 +65,7 @@ void FFileHistory::StoreFileDeletion(const FString& ConversationId, const FStrin
 	StoreEntry(ConversationId, FilePath, EFileActionType::Deletion, Content);
 }
 
-void FFileHistory::StoreEntry(
-	const FString& ConversationId, const FString& FilePath, EFileActionType ActionType, const FString& Content)
+void FFileHistory::StoreEntry(const FString& ConversationId, const FString& FilePath, EFileActionType ActionType, const FString& Content)
 {
 	if (FilePath.IsEmpty())
 	{
@@ -88,8 +87,7 @@ void FFileHistory::StoreFileRedoVersion(
 	{
 		return;
 	}
-	RedoHistories.FindOrAdd(ConversationId)
-		.Add(FilePath, { Entry.ActionType, FDateTime::Now(), bModified ? Content : Entry.Content });
+	RedoHistories.FindOrAdd(ConversationId).Add(FilePath, { Entry.ActionType, FDateTime::Now(), bModified ? Content : Entry.Content });
 }
 
 bool FFileHistory::ApplyFileSystemChange(const FString& FilePath, const FString& Content, EFileActionType Action)

@@ -36,9 +36,8 @@ FString FKestrinInterface::GetPromptLogFilePath()
 void FKestrinInterface::KestrinInterfaceLogString(const FString& Text, const FString& FilePath, bool bAddTimestamp) const
 {
 	EnsureLogDirectoryExists();
-	const FString Record = bAddTimestamp
-		? FString::Printf(TEXT("\n[%s] %s\n\n"), *FDateTime::Now().ToString(TEXT("%H:%M:%S")), *Text)
-		: FString::Printf(TEXT("%s\n"), *Text);
+	const FString Record = bAddTimestamp ? FString::Printf(TEXT("\n[%s] %s\n\n"), *FDateTime::Now().ToString(TEXT("%H:%M:%S")), *Text)
+										 : FString::Printf(TEXT("%s\n"), *Text);
 	FFileHelper::SaveStringToFile(
 		Record, *FilePath, FFileHelper::EEncodingOptions::ForceUTF8, &IFileManager::Get(), EFileWrite::FILEWRITE_Append);
 }

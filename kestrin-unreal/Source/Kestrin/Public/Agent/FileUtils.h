@@ -31,8 +31,8 @@ public:
 	 * Replaces every occurrence of OldString. When it is not in the file as given, it is tried with the file's line ends and
 	 * its kind of indentation. The out texts are the file's before and after; both may be set when the call ends in an error.
 	 */
-	static FString UpdateFile(const FString& FilePath, const FString& OldString, const FString& NewString, FString& OutOldContent,
-		FString& OutNewContent);
+	static FString UpdateFile(
+		const FString& FilePath, const FString& OldString, const FString& NewString, FString& OutOldContent, FString& OutNewContent);
 	/** Inserts Text as one line before the line of that index, counted from 0 and clamped to the file. */
 	static FString InsertIntoFile(const FString& FilePath, int32 LineNumber, const FString& Text);
 	/** Replaces a line, counted from 1. Does nothing when that can't be done. */

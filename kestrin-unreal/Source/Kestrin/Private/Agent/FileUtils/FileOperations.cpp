@@ -96,9 +96,8 @@ FString FFileUtils::ReplaceFile(const FString& FilePath, const FString& NewConte
 	{
 		return FString::Printf(TEXT("Error: File does not exist: %s"), *FullPath);
 	}
-	const EFileRewrite Rewrite = RewriteFile(FullPath, [&] {
-		return FFileHelper::SaveStringToFile(NewContent, *FullPath, FFileHelper::EEncodingOptions::ForceUTF8);
-	});
+	const EFileRewrite Rewrite = RewriteFile(
+		FullPath, [&] { return FFileHelper::SaveStringToFile(NewContent, *FullPath, FFileHelper::EEncodingOptions::ForceUTF8); });
 	switch (Rewrite)
 	{
 	case EFileRewrite::DeleteFailed: return FString::Printf(TEXT("Error: Failed to delete existing file: %s"), *FullPath);

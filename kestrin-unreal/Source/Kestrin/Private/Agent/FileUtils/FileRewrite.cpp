@@ -37,10 +37,10 @@ public:
 
 	bool Make() const
 	{
-		if (!GetPlatformFile().CreateDirectoryTree(*FPaths::GetPath(Base))
-			|| !FFileHelper::SaveStringToFile(FullPath, *(Base + PathExtension), FFileHelper::EEncodingOptions::ForceUTF8)
-			|| !GetPlatformFile().CopyFile(*(Base + PartExtension), *FullPath)
-			|| !GetPlatformFile().MoveFile(*(Base + CopyExtension), *(Base + PartExtension)))
+		if (!GetPlatformFile().CreateDirectoryTree(*FPaths::GetPath(Base)) ||
+			!FFileHelper::SaveStringToFile(FullPath, *(Base + PathExtension), FFileHelper::EEncodingOptions::ForceUTF8) ||
+			!GetPlatformFile().CopyFile(*(Base + PartExtension), *FullPath) ||
+			!GetPlatformFile().MoveFile(*(Base + CopyExtension), *(Base + PartExtension)))
 		{
 			Remove();
 			return false;
@@ -55,8 +55,8 @@ public:
 		{
 			return false;
 		}
-		if (!GetPlatformFile().CreateDirectoryTree(*FPaths::GetPath(FullPath))
-			|| !GetPlatformFile().MoveFile(*FullPath, *(Base + CopyExtension)))
+		if (!GetPlatformFile().CreateDirectoryTree(*FPaths::GetPath(FullPath)) ||
+			!GetPlatformFile().MoveFile(*FullPath, *(Base + CopyExtension)))
 		{
 			return false;
 		}

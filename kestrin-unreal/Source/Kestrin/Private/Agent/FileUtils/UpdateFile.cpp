@@ -29,21 +29,18 @@ FString Normalize(const FString& Text)
 /** Replaces OldString in Text, as it is or, when it is not there, in the first form that is. @return how often */
 int32 ReplaceTolerantly(FString& Text, const FString& OldString, const FString& NewString)
 {
-	const auto Replace = [&Text, &NewString](const FString& Form) {
-		return Text.ReplaceInline(*Form, *NewString, ESearchCase::CaseSensitive);
-	};
+	const auto Replace = [&Text, &NewString](const FString& Form)
+	{ return Text.ReplaceInline(*Form, *NewString, ESearchCase::CaseSensitive); };
 	if (Contains(Text, *OldString))
 	{
 		return Replace(OldString);
 	}
 	const bool bHasCrLf = Contains(Text, CrLf);
 	const bool bHasTabs = Contains(Text, Tab);
-	const auto WithLineEnds = [bHasCrLf](const FString& Form) {
-		return bHasCrLf ? ReplaceAll(Form, Lf, CrLf) : ReplaceAll(Form, CrLf, Lf);
-	};
-	const auto WithIndents = [bHasTabs](const FString& Form) {
-		return bHasTabs ? ReplaceAll(Form, FourSpaces, Tab) : ReplaceAll(Form, Tab, FourSpaces);
-	};
+	const auto WithLineEnds = [bHasCrLf](const FString& Form)
+	{ return bHasCrLf ? ReplaceAll(Form, Lf, CrLf) : ReplaceAll(Form, CrLf, Lf); };
+	const auto WithIndents = [bHasTabs](const FString& Form)
+	{ return bHasTabs ? ReplaceAll(Form, FourSpaces, Tab) : ReplaceAll(Form, Tab, FourSpaces); };
 	int32 Replacements = Replace(WithIndents(WithLineEnds(OldString)));
 	if (Replacements == 0)
 	{
@@ -57,8 +54,8 @@ int32 ReplaceTolerantly(FString& Text, const FString& OldString, const FString& 
 }
 }
 
-FString FFileUtils::UpdateFile(const FString& FilePath, const FString& OldString, const FString& NewString, FString& OutOldContent,
-	FString& OutNewContent)
+FString FFileUtils::UpdateFile(
+	const FString& FilePath, const FString& OldString, const FString& NewString, FString& OutOldContent, FString& OutNewContent)
 {
 	const FString FullPath = GetFullPath(FilePath);
 	if (!FPlatformFileManager::Get().GetPlatformFile().FileExists(*FullPath))
@@ -79,9 +76,8 @@ FString FFileUtils::UpdateFile(const FString& FilePath, const FString& OldString
 	{
 		return FString::Printf(TEXT("Error: No replacements made in file: %s"), *FilePath);
 	}
-	const EFileRewrite Rewrite = RewriteFile(FullPath, [&] {
-		return FFileHelper::SaveStringToFile(OutNewContent, *FullPath, FFileHelper::EEncodingOptions::ForceUTF8);
-	});
+	const EFileRewrite Rewrite = RewriteFile(
+		FullPath, [&] { return FFileHelper::SaveStringToFile(OutNewContent, *FullPath, FFileHelper::EEncodingOptions::ForceUTF8); });
 	switch (Rewrite)
 	{
 	case EFileRewrite::DeleteFailed: return FString::Printf(TEXT("Error: Failed to delete existing file: %s"), *FilePath);
