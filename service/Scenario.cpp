@@ -3,13 +3,12 @@
 #include "NewId.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace LocalService
 {
 namespace
 {
-constexpr size_t SearchedBytes = 4096;
-
 bool Fits(const std::optional<bool>& Wanted, bool bActual)
 {
 	return !Wanted || *Wanted == bActual;
@@ -75,10 +74,13 @@ std::string FillText(const std::string& Template, const Turn& Said)
 }
 }
 
-bool Pattern::IsFoundIn(const std::string& Text) const
+Pattern::Pattern(const std::string& Expression)
+	: Compiled(std::make_shared<const RE2>(Expression, RE2::Quiet))
 {
-	const auto End = Text.begin() + static_cast<std::ptrdiff_t>(std::min(Text.size(), SearchedBytes));
-	return std::regex_search(Text.begin(), End, Compiled);
+	if (!Compiled->ok())
+	{
+		throw std::invalid_argument(Compiled->error());
+	}
 }
 
 const Rule* Scenario::Find(const Turn& Said) const

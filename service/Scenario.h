@@ -2,27 +2,26 @@
 
 #include "Json.h"
 
+#include <re2/re2.h>
+
+#include <memory>
 #include <optional>
-#include <regex>
 #include <string>
 #include <vector>
 
 namespace LocalService
 {
-/** A regular expression that is searched for in the first few kilobytes of a text: the library's matcher recurses by length. */
+/** A regular expression that is searched for in a text, in a time that grows with the text's length and no faster. */
 class Pattern
 {
 public:
-	/** Throws std::regex_error. */
-	explicit Pattern(const std::string& Expression)
-		: Compiled(Expression, std::regex::ECMAScript)
-	{
-	}
+	/** Throws std::invalid_argument. */
+	explicit Pattern(const std::string& Expression);
 
-	bool IsFoundIn(const std::string& Text) const;
+	bool IsFoundIn(const std::string& Text) const { return RE2::PartialMatch(Text, *Compiled); }
 
 private:
-	std::regex Compiled;
+	std::shared_ptr<const RE2> Compiled;
 };
 
 /** What happens to one answer of the service on its way out. The default changes nothing. */

@@ -72,7 +72,7 @@ public:
 		{
 			return Source ? std::optional<Pattern>(*Source) : std::nullopt;
 		}
-		catch (const std::regex_error& Error)
+		catch (const std::invalid_argument& Error)
 		{
 			Fail(Place(Name), "no regular expression: " + std::string(Error.what()));
 		}

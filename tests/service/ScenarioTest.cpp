@@ -106,15 +106,15 @@ TEST(Scenario, ResultsAreKnownByTheToolOfTheirCall)
 	EXPECT_EQ(Mine.AskText(Both), "second {{message}}||M|{{other}}|{{1, 2}}|{M}|{{");
 }
 
-TEST(Scenario, HugeTextsAreMatchedByTheirBeginning)
+TEST(Scenario, HugeTextsAreMatchedWhole)
 {
 	const ServiceProcess Service(Json::parse(R"([
 		{ "message": "^(a|b)*needle", "answer": [ "found" ] },
 		{ "message": "^(.|\\n)*$", "answer": [ "passed" ] }
 	])"));
 	Talk Mine(Service);
-	EXPECT_EQ(Mine.AskText({ { "message", std::string(1000, 'a') + "needle" + std::string(10'000'000, 'b') } }), "found");
-	EXPECT_EQ(Mine.AskText({ { "message", std::string(10'000'000, 'a') + "needle" } }), "passed");
+	EXPECT_EQ(Mine.AskText({ { "message", std::string(10'000'000, 'a') + "needle" } }), "found");
+	EXPECT_EQ(Mine.AskText({ { "message", std::string(10'000'000, 'a') + "straw" } }), "passed");
 }
 
 TEST(Scenario, ErrorsNameTheRuleAndTheField)
