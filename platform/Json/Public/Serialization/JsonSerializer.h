@@ -40,18 +40,41 @@ private:
 	template <typename WriterType>
 	static void WriteFields(const FJsonObject& Object, WriterType& Writer)
 	{
-		for (const TPair<FString, TSharedPtr<FJsonValue>>& Field : Object.Values)
-		{
-			WriteValue(Field.Value.Get(), Writer, Field.Key);
-		}
+		WriteAll(
+			Object.Values, Writer, [](const auto& Field) { return Field.Value.Get(); },
+			[&Writer](const auto& Field) { WriteValue(Field.Value.Get(), Writer, Field.Key); });
 	}
 
 	template <typename WriterType>
 	static void WriteItems(const TArray<TSharedPtr<FJsonValue>>& Array, WriterType& Writer)
 	{
-		for (const TSharedPtr<FJsonValue>& Item : Array)
+		WriteAll(
+			Array, Writer, [](const TSharedPtr<FJsonValue>& Item) { return Item.Get(); },
+			[&Writer](const TSharedPtr<FJsonValue>& Item) { WriteValue(Item.Get(), Writer); });
+	}
+
+	/**
+	 * A large document is bound by memory: the value after the one being written is fetched ahead, and once a sample of many elements
+	 * is written, room is made for the rest, so that the text is not copied again and again as it grows.
+	 */
+	template <typename WriterType, typename ElementsType, typename GetType, typename WriteType>
+	static void WriteAll(const ElementsType& Elements, WriterType& Writer, GetType Get, WriteType Write)
+	{
+		constexpr int32 Sample = 64;
+		const int64 Begin = Writer.GetLength();
+		int32 Written = 0;
+		auto Next = Elements.begin();
+		for (const auto& Element : Elements)
 		{
-			WriteValue(Item.Get(), Writer);
+			if (++Next != Elements.end())
+			{
+				__builtin_prefetch(Get(*Next));
+			}
+			Write(Element);
+			if (++Written == Sample)
+			{
+				Writer.Reserve((Writer.GetLength() - Begin) * (Elements.Num() - Sample) / Sample);
+			}
 		}
 	}
 

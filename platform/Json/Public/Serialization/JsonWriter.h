@@ -83,6 +83,10 @@ public:
 	void WriteNull(const FString& Identifier) { WriteValue(Identifier, nullptr); }
 	void WriteNull() { WriteValue(nullptr); }
 
+	/** In characters, of what is written so far. */
+	int64 GetLength() const { return Out.Len(); }
+	/** Makes room for about as many more characters. */
+	void Reserve(int64 More) { Out.Native().reserve(static_cast<SIZE_T>(GetLength() + More + More / 8)); }
 	/** @return whether every block was ended */
 	bool Close() { return Depth == 0; }
 
