@@ -6,7 +6,7 @@ fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 # Everything that the build and the tests use, by its Debian name.
 packages=(
 	g++ cmake ninja-build ccache pkg-config
-	libcurl4-openssl-dev libssl-dev libcpp-httplib-dev nlohmann-json3-dev libre2-dev
+	libcurl4-openssl-dev libssl-dev libcpp-httplib-dev nlohmann-json3-dev libre2-dev zlib1g-dev
 	libgtest-dev libgmock-dev
 )
 

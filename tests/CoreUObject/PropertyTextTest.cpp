@@ -21,7 +21,8 @@ protected:
 	FString Import(const TCHAR* Name, const TCHAR* Text, uint32 PortFlags = PPF_None) const
 	{
 		const FProperty* const Property = UTestObject::StaticClass()->FindPropertyByName(Name);
-		const TCHAR* const End = Property->ImportText_Direct(Text, Property->ContainerPtrToValuePtr<void>(Object), Object, PortFlags);
+		const TCHAR* const End =
+			Property->ImportText_Direct(Text, Property->ContainerPtrToValuePtr<void>(Object), Object, PortFlags, nullptr);
 		return End ? FString(End) : FString(TEXT("(refused)"));
 	}
 
@@ -87,11 +88,11 @@ TEST_F(PropertyText, IsInTheEnginesNotation)
 		UTestObject* const Target = NewObject<UTestObject>();
 		const FProperty* const Property = UTestObject::StaticClass()->FindPropertyByName(Each.Name);
 		void* const Value = Property->ContainerPtrToValuePtr<void>(Target);
-		const TCHAR* End = Property->ImportText_Direct(Each.Text, Value, Target, PPF_None);
+		const TCHAR* End = Property->ImportText_Direct(Each.Text, Value, Target, PPF_None, nullptr);
 		EXPECT_TRUE(End && *End == '\0');
 		EXPECT_TRUE(Property->Identical_InContainer(Source, Target));
 		const FString Followed = Delimited + TEXT(",next");
-		End = Property->ImportText_Direct(*Followed, Value, Target, PPF_Delimited);
+		End = Property->ImportText_Direct(*Followed, Value, Target, PPF_Delimited, nullptr);
 		EXPECT_TRUE(End && FString(End) == TEXT(",next"));
 		EXPECT_TRUE(Property->Identical_InContainer(Source, Target));
 	}

@@ -1,5 +1,7 @@
 #include "BodyParser.h"
 
+#include "Defaults.h"
+#include "Delegates.h"
 #include "SourceError.h"
 #include "Specifiers.h"
 #include "Types.h"
@@ -11,11 +13,13 @@ namespace
 class BodyParser
 {
 public:
-	BodyParser(Cursor& InTokens, Class& InType, bool bInStruct)
+	BodyParser(Cursor& InTokens, Class& InType, BodyKind InKind)
 		: Tokens(InTokens)
 		, Type(InType)
-		, bStruct(bInStruct)
-		, Access(bInStruct ? "public" : "private")
+		, Kind(InKind)
+		, Name(InKind == BodyKind::Interface ? InType.GetFunctionOwner() : InType.Name)
+		, BodyLine(InKind == BodyKind::Interface ? InType.InterfaceBodyLine : InType.BodyLine)
+		, Access(InKind == BodyKind::Struct ? "public" : "private")
 	{
 	}
 
@@ -26,14 +30,15 @@ public:
 		{
 			if (Tokens.AtEnd())
 			{
-				throw SourceError(Open.Line, "the body of " + Type.Name + " has no end");
+				throw SourceError(Open.Line, "the body of " + Name + " has no end");
 			}
 			ReadMember();
 		}
-		if (Type.BodyLine == 0)
+		if (BodyLine == 0)
 		{
-			throw SourceError(Type.Line, Type.Name + " has no GENERATED_BODY()");
+			throw SourceError(Kind == BodyKind::Interface ? Open.Line : Type.Line, Name + " has no GENERATED_BODY()");
 		}
+		QualifyDelegates();
 	}
 
 private:
@@ -47,6 +52,10 @@ private:
 		{
 			Access = Tokens.Take().Text;
 			Tokens.Take();
+		}
+		else if (IsAtDelegate(Tokens))
+		{
+			Type.Delegates.push_back(ReadDelegate(Tokens));
 		}
 		else
 		{
@@ -69,23 +78,23 @@ private:
 		{
 			Tokens.Expect("(");
 			Tokens.Expect(")");
-			if (Type.BodyLine != 0)
+			if (BodyLine != 0)
 			{
-				throw SourceError(Macro.Line, Type.Name + " has two GENERATED_BODY()");
+				throw SourceError(Macro.Line, Name + " has two GENERATED_BODY()");
 			}
-			Type.BodyLine = Macro.Line;
+			BodyLine = Macro.Line;
 		}
-		else if (Macro.Is("UPROPERTY"))
+		else if (Macro.Is("UPROPERTY") && Kind != BodyKind::Interface)
 		{
 			ReadProperty(Macro);
 		}
-		else if (Macro.Is("UFUNCTION") && !bStruct)
+		else if (Macro.Is("UFUNCTION") && Kind != BodyKind::Struct)
 		{
 			ReadFunction(Macro);
 		}
 		else
 		{
-			throw SourceError(Macro.Line, Macro.Text + " cannot stand in the body of " + Type.Name);
+			throw SourceError(Macro.Line, Macro.Text + " cannot stand in the body of " + Name);
 		}
 	}
 
@@ -108,6 +117,10 @@ private:
 			if (Tokens.Peek().Is(Type.Name) && Tokens.Peek(1).Is("("))
 			{
 				NoteConstructor();
+			}
+			else if (Tokens.Peek().Text.ends_with("_Implementation") && Tokens.Peek(1).Is("("))
+			{
+				Type.Implementations.insert(Tokens.Take().Text);
 			}
 			else if (Tokens.Peek().Is("(") || Tokens.Peek().Is("["))
 			{
@@ -161,6 +174,7 @@ private:
 		New.Type = std::move(Declared.Type);
 		New.Flags = std::move(Read.Flags);
 		New.Meta = std::move(Read.Meta);
+		AddFlags(New.Flags, New.Meta.Has("ExposeOnSpawn") ? "CPF_ExposeOnSpawn" : "");
 		ReadDeclaratorEnd(New);
 		AddProperty(std::move(New));
 	}
@@ -170,7 +184,7 @@ private:
 	{
 		if (Tokens.Peek().Is("["))
 		{
-			throw SourceError(New.Line, "property " + New.Name + ": arrays of fixed size are not supported, use TArray");
+			ReadFixedSize(New);
 		}
 		if (Tokens.TakeIf(":"))
 		{
@@ -191,11 +205,26 @@ private:
 		Tokens.Expect(";");
 	}
 
+	void ReadFixedSize(Property& New)
+	{
+		if (!New.Type.Inner.empty())
+		{
+			throw SourceError(New.Line, "property " + New.Name + ": an array of fixed size of containers is not known to reflection");
+		}
+		Tokens.SkipBalanced();
+		New.bFixedArray = true;
+		if (Tokens.Peek().Is("["))
+		{
+			throw SourceError(New.Line, "property " + New.Name + ": an array of arrays is not known to reflection");
+		}
+	}
+
 	void ReadBitField(Property& New)
 	{
-		if (!Tokens.TakeIf("1") || (New.Type.Kind != "Byte" && New.Type.Kind != "Bool") || !New.Type.Referred.empty())
+		const bool bFits = New.Type.Kind == "Byte" || New.Type.Kind == "UInt32" || New.Type.Kind == "Bool";
+		if (!Tokens.TakeIf("1") || !bFits || !New.Type.Referred.empty())
 		{
-			throw SourceError(New.Line, "property " + New.Name + ": a bit field must be uint8 or bool and one bit wide");
+			throw SourceError(New.Line, "property " + New.Name + ": a bit field must be uint8, uint32 or bool and one bit wide");
 		}
 		New.Type = { "Bool", "bool", {}, {} };
 		New.bBitField = true;
@@ -231,14 +260,24 @@ private:
 		Specifiers Read = ReadSpecifiers(Tokens, SpecifierSet::Function, Macro.Comment);
 		SkipDeprecation();
 		Function New;
-		New.Flags = "FUNC_Native";
+		// What events are beside it, their specifiers say.
+		New.Flags = Read.Flags.find("FUNC_Event") == std::string::npos ? "FUNC_Native" : "";
 		AddFlags(New.Flags, Access == "public" ? "FUNC_Public" : Access == "protected" ? "FUNC_Protected" : "FUNC_Private");
 		AddFlags(New.Flags, Read.Flags);
 		New.Meta = std::move(Read.Meta);
 		ReadFunctionHead(New);
 		ReadParameters(New);
 		ReadFunctionTail(New);
+		CheckEvent(New, Macro.Line);
 		Type.Functions.push_back(std::move(New));
+	}
+
+	static void CheckEvent(const Function& New, int Line)
+	{
+		if (New.IsEvent() && New.bStatic)
+		{
+			throw SourceError(Line, "function " + New.Name + " is an event and cannot be static");
+		}
 	}
 
 	// Up to the name: storage words, an export macro, the result's type.
@@ -260,7 +299,11 @@ private:
 		if (!Tokens.TakeIf("void"))
 		{
 			New.bReturns = true;
-			Result.Type = ReadType(Tokens).Type;
+			Result = Property();
+			const DeclaredType Declared = ReadType(Tokens);
+			Result.Type = Declared.Type;
+			Result.bConst = Declared.bConst;
+			Result.bReference = Declared.bReference;
 			Result.Name = "ReturnValue";
 			Result.Flags = "CPF_Parm | CPF_OutParm | CPF_ReturnParm";
 		}
@@ -286,41 +329,49 @@ private:
 
 	Property ReadParameter(Function& New)
 	{
+		Specifiers Read;
 		if (Tokens.TakeIf("UPARAM"))
 		{
-			Tokens.SkipBalanced();
+			Read = ReadSpecifiers(Tokens, SpecifierSet::Parameter, {});
 		}
 		Property Parameter;
 		const DeclaredType Declared = ReadType(Tokens);
 		Parameter.Line = Tokens.GetLine();
 		Parameter.Name = Tokens.ExpectIdentifier("a parameter's name");
 		Parameter.Type = Declared.Type;
+		Parameter.bConst = Declared.bConst;
+		Parameter.bReference = Declared.bReference;
+		Parameter.Meta = std::move(Read.Meta);
 		Parameter.Flags = "CPF_Parm";
 		AddFlags(Parameter.Flags, Declared.bConst ? "CPF_ConstParm" : "");
-		AddFlags(Parameter.Flags, Declared.bReference ? "CPF_OutParm | CPF_ReferenceParm" : "");
-		if (Declared.bReference && New.Flags.find("FUNC_HasOutParms") == std::string::npos)
+		// A reference that may be written is a result, unless it says that it is read as well.
+		AddFlags(Parameter.Flags, Declared.bReference ? "CPF_OutParm" : "");
+		AddFlags(Parameter.Flags, Declared.bReference && Declared.bConst ? "CPF_ReferenceParm" : "");
+		AddFlags(Parameter.Flags, Read.Flags);
+		if (Declared.bReference && !New.Has("FUNC_HasOutParms"))
 		{
 			AddFlags(New.Flags, "FUNC_HasOutParms");
 		}
 		if (Tokens.TakeIf("="))
 		{
-			SkipDefaultArgument();
+			ReadDefaultArgument(New, Parameter);
 		}
 		return Parameter;
 	}
 
-	void SkipDefaultArgument()
+	void ReadDefaultArgument(Function& New, const Property& Parameter)
 	{
-		while (!Tokens.AtEnd() && !Tokens.Peek().Is(",") && !Tokens.Peek().Is(")"))
+		std::vector<Token> Default;
+		int Depth = 0;
+		while (!Tokens.AtEnd() && (Depth > 0 || (!Tokens.Peek().Is(",") && !Tokens.Peek().Is(")"))))
 		{
-			if (Tokens.Peek().Is("(") || Tokens.Peek().Is("{"))
-			{
-				Tokens.SkipBalanced();
-			}
-			else
-			{
-				Tokens.Take();
-			}
+			Default.push_back(Tokens.Take());
+			Depth += Default.back().Is("(") || Default.back().Is("{");
+			Depth -= Default.back().Is(")") || Default.back().Is("}");
+		}
+		if (const std::optional<std::string> Value = ConvertDefault(Parameter.Type, Default))
+		{
+			New.Meta.Set("CPP_Default_" + Parameter.Name, *Value);
 		}
 	}
 
@@ -328,9 +379,10 @@ private:
 	{
 		while (!Tokens.AtEnd() && !Tokens.Peek().Is(";") && !Tokens.Peek().Is("{"))
 		{
-			AddFlags(New.Flags, Tokens.Peek().Is("const") ? "FUNC_Const" : "");
+			New.bConst |= Tokens.Peek().Is("const");
 			Tokens.Take();
 		}
+		AddFlags(New.Flags, New.bConst ? "FUNC_Const" : "");
 		if (!Tokens.TakeIf(";"))
 		{
 			if (Tokens.AtEnd())
@@ -341,15 +393,42 @@ private:
 		}
 	}
 
+	// The class's own delegates are named from outside of it in generated code.
+	void QualifyDelegates()
+	{
+		for (Property& Each : Type.Properties)
+		{
+			Qualify(Each.Type);
+		}
+		for (Function& Each : Type.Functions)
+		{
+			for (Property& Parameter : Each.Parameters)
+			{
+				Qualify(Parameter.Type);
+			}
+		}
+	}
+
+	void Qualify(PropertyType& Used) const
+	{
+		const auto Own = std::ranges::find(Type.Delegates, Used.Cpp, &Delegate::Name);
+		if (Own != Type.Delegates.end())
+		{
+			Used.Cpp = Type.Name + "::" + Used.Cpp;
+		}
+	}
+
 	Cursor& Tokens;
 	Class& Type;
-	const bool bStruct;
+	const BodyKind Kind;
+	const std::string Name; // The C++ class whose body it is.
+	int& BodyLine;
 	std::string Access;
 	Property Result; // Of the function that is read.
 };
 }
 
-void ReadBody(Cursor& Tokens, Class& Type, bool bStruct)
+void ReadBody(Cursor& Tokens, Class& Type, BodyKind Kind)
 {
-	BodyParser(Tokens, Type, bStruct).Run();
+	BodyParser(Tokens, Type, Kind).Run();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,7 +25,7 @@ struct PropertyType
 	std::string Kind;                // Enumerator of UECodeGen::EPropertyKind.
 	std::string Cpp;                 // As it is spelled in generated code.
 	std::string Referred;            // The class, struct or enum meant, or empty.
-	std::vector<PropertyType> Inner; // An array's element type: one entry.
+	std::vector<PropertyType> Inner; // A container's element type, or a map's key and value.
 };
 
 struct Property
@@ -35,6 +35,9 @@ struct Property
 	std::string Flags; // Names of flags joined by " | ", or empty; so everywhere below.
 	MetaData Meta;
 	bool bBitField = false;
+	bool bFixedArray = false;
+	bool bConst = false; // Of a parameter: how it is declared.
+	bool bReference = false;
 	int Line = 0;
 };
 
@@ -46,6 +49,20 @@ struct Function
 	std::vector<Property> Parameters; // ReturnValue, where there is one, is the last.
 	bool bStatic = false;
 	bool bReturns = false;
+	bool bConst = false;
+
+	bool Has(const char* Flag) const { return Flags.find(Flag) != std::string::npos; }
+	bool IsNative() const { return Has("FUNC_Native"); }
+	bool IsEvent() const { return Has("FUNC_Event"); }
+	size_t NumArguments() const { return Parameters.size() - bReturns; }
+};
+
+// A dynamic delegate.
+struct Delegate
+{
+	std::string Name;   // With its prefix.
+	Function Signature; // Its name is "<Name>__DelegateSignature", without the prefix.
+	int Line = 0;
 };
 
 struct Class
@@ -58,8 +75,16 @@ struct Class
 	int Line = 0;
 	int BodyLine = 0;               // Where GENERATED_BODY stands.
 	bool bTakesInitializer = false; // Its constructor takes an FObjectInitializer.
+	std::vector<std::string> Bases; // The further base classes, which may be interfaces.
 	std::vector<Property> Properties;
-	std::vector<Function> Functions;
+	std::vector<Function> Functions; // Those of an interface stand in the class "I...".
+	std::vector<Delegate> Delegates;
+	std::set<std::string> Implementations; // The functions "<Event>_Implementation" that the class declares itself.
+	int InterfaceBodyLine = 0;             // Of the class "I...", for an interface.
+
+	bool IsInterface() const { return Flags.find("CLASS_Interface") != std::string::npos; }
+	// The C++ class that the functions are members of.
+	std::string GetFunctionOwner() const { return IsInterface() ? "I" + Name.substr(1) : Name; }
 };
 
 struct Enumerator
@@ -71,6 +96,7 @@ struct Enumerator
 struct Enum
 {
 	std::string Name;
+	std::string Cpp;        // Name, or "Name::Type" where Name is a namespace around it.
 	std::string Underlying; // Empty for the default one of an enum class.
 	bool bScoped = false;
 	MetaData Meta;
@@ -85,4 +111,5 @@ struct Header
 	std::vector<Class> Classes;
 	std::vector<Class> Structs;
 	std::vector<Enum> Enums;
+	std::vector<Delegate> Delegates;
 };

@@ -1,9 +1,12 @@
 #include "Parser.h"
 
 #include "BodyParser.h"
+#include "Delegates.h"
 #include "Lexer.h"
 #include "SourceError.h"
 #include "Specifiers.h"
+
+#include <algorithm>
 
 namespace
 {
@@ -24,21 +27,47 @@ std::string ReadTypeName(Cursor& Tokens)
 	return Name;
 }
 
-// ": public USuper, public IOther": the first base counts.
-std::string ReadSuper(Cursor& Tokens)
+// The name of a base class, token by token: "public", "Outer", "::", "IOther". Empty behind template arguments.
+std::string AddToName(std::string Name, const Token& Next)
 {
-	if (!Tokens.TakeIf(":"))
+	const bool bQualified = Next.Is("::") || Name.ends_with("::");
+	if (Next.Kind != TokenKind::Identifier && !Next.Is("::"))
 	{
 		return {};
 	}
-	Tokens.TakeIf("virtual");
-	Tokens.TakeIf("public");
-	const std::string Super = Tokens.ExpectIdentifier("a super class");
+	return bQualified ? Name + Next.Text : Next.Text;
+}
+
+// ": public USuper, public IOther": the first base is the super class. A base with template arguments is none that reflection knows.
+void ReadBases(Cursor& Tokens, Class& Type)
+{
+	if (!Tokens.TakeIf(":"))
+	{
+		return;
+	}
+	std::vector<std::string> Bases;
+	std::string Last;
+	int Depth = 0;
 	while (!Tokens.AtEnd() && !Tokens.Peek().Is("{"))
 	{
-		Tokens.Take();
+		const Token& Current = Tokens.Take();
+		Depth += Current.Is("<");
+		Depth -= Current.Is(">");
+		if (Depth == 0 && Current.Is(","))
+		{
+			Bases.push_back(std::move(Last));
+			Last.clear();
+		}
+		else if (Depth == 0)
+		{
+			Last = AddToName(std::move(Last), Current);
+		}
 	}
-	return Super;
+	Bases.push_back(std::move(Last));
+	Type.Super = Bases.front();
+	Bases.erase(Bases.begin());
+	std::erase(Bases, std::string());
+	Type.Bases = std::move(Bases);
 }
 
 class HeaderParser
@@ -60,6 +89,7 @@ public:
 		{
 			ReadFileLevel();
 		}
+		CheckInterfaces();
 		CheckIncludes();
 		return std::move(Result);
 	}
@@ -72,6 +102,14 @@ private:
 		{
 			ReadReflected();
 		}
+		else if (IsAtDelegate(Tokens))
+		{
+			Result.Delegates.push_back(ReadDelegate(Tokens));
+		}
+		else if (Class* const Interface = FindInterfaceBody())
+		{
+			ReadInterfaceBody(*Interface);
+		}
 		else if (Current.Is("{"))
 		{
 			Tokens.SkipBalanced();
@@ -82,10 +120,37 @@ private:
 		}
 	}
 
+	// The interface whose class "I..." is defined here, or null.
+	Class* FindInterfaceBody()
+	{
+		if (!Tokens.Peek().Is("class"))
+		{
+			return nullptr;
+		}
+		size_t Ahead = 1;
+		while (Tokens.Peek(Ahead + 1).Kind == TokenKind::Identifier)
+		{
+			++Ahead;
+		}
+		const bool bDefined = Tokens.Peek(Ahead + 1).Is("{") || Tokens.Peek(Ahead + 1).Is(":");
+		const auto Found = std::ranges::find_if(
+			Result.Classes, [&](const Class& Each) { return Each.IsInterface() && Tokens.Peek(Ahead).Is(Each.GetFunctionOwner()); });
+		return bDefined && Found != Result.Classes.end() ? &*Found : nullptr;
+	}
+
+	void ReadInterfaceBody(Class& Interface)
+	{
+		while (!Tokens.Peek().Is("{"))
+		{
+			Tokens.Take();
+		}
+		ReadBody(Tokens, Interface, BodyKind::Interface);
+	}
+
 	void ReadReflected()
 	{
 		const Token Macro = Tokens.Take();
-		if (Macro.Is("UCLASS"))
+		if (Macro.Is("UCLASS") || Macro.Is("UINTERFACE"))
 		{
 			ReadClass(Macro);
 		}
@@ -96,10 +161,6 @@ private:
 		else if (Macro.Is("UENUM"))
 		{
 			ReadEnum(Macro);
-		}
-		else if (Macro.Is("UINTERFACE"))
-		{
-			throw SourceError(Macro.Line, "UINTERFACE is not supported");
 		}
 		else
 		{
@@ -114,7 +175,7 @@ private:
 		Tokens.Expect(Keyword);
 		Type.Line = Tokens.GetLine();
 		Type.Name = ReadTypeName(Tokens);
-		Type.Super = ReadSuper(Tokens);
+		ReadBases(Tokens, Type);
 		Type.Config = std::move(Read.Config);
 		Type.Flags = std::move(Read.Flags);
 		Type.Meta = std::move(Read.Meta);
@@ -133,7 +194,11 @@ private:
 		{
 			throw SourceError(Type.Line, "class " + Type.Name + " needs a super class");
 		}
-		ReadBody(Tokens, Type, false);
+		if (Macro.Is("UINTERFACE"))
+		{
+			AddFlags(Type.Flags, "CLASS_Abstract | CLASS_Interface");
+		}
+		ReadBody(Tokens, Type, BodyKind::Class);
 		Result.Classes.push_back(std::move(Type));
 	}
 
@@ -141,7 +206,7 @@ private:
 	{
 		Class Type = ReadTypeHead(Macro, SpecifierSet::Struct, "struct");
 		CheckPrefix(Type, "F");
-		ReadBody(Tokens, Type, true);
+		ReadBody(Tokens, Type, BodyKind::Struct);
 		Result.Structs.push_back(std::move(Type));
 	}
 
@@ -158,10 +223,21 @@ private:
 	{
 		Enum Type;
 		Type.Meta = ReadSpecifiers(Tokens, SpecifierSet::Enum, Macro.Comment).Meta;
-		Tokens.Expect("enum");
-		Type.bScoped = Tokens.TakeIf("class") || Tokens.TakeIf("struct");
+		const bool bNamespace = Tokens.TakeIf("namespace");
 		Type.Line = Tokens.GetLine();
-		Type.Name = ReadTypeName(Tokens);
+		Type.Name = bNamespace ? ReadEnumNamespace() : std::string();
+		Tokens.Expect("enum");
+		Type.bScoped = Tokens.TakeIf("class") || Tokens.TakeIf("struct") || bNamespace;
+		Type.Line = Tokens.GetLine();
+		Type.Cpp = ReadTypeName(Tokens);
+		if (!bNamespace)
+		{
+			Type.Name = Type.Cpp;
+		}
+		else if (Type.Cpp != "Type")
+		{
+			throw SourceError(Type.Line, "the enum in namespace " + Type.Name + " must be called 'Type'");
+		}
 		if (!Type.Name.starts_with('E'))
 		{
 			throw SourceError(Type.Line, "the name '" + Type.Name + "' must begin with 'E'");
@@ -170,7 +246,7 @@ private:
 		{
 			Type.Underlying = Tokens.ExpectIdentifier("the enum's type");
 		}
-		else if (!Type.bScoped)
+		else if (!Type.bScoped || bNamespace)
 		{
 			throw SourceError(Type.Line, "enum " + Type.Name + " needs a type: enum class " + Type.Name + " : uint8");
 		}
@@ -180,7 +256,20 @@ private:
 			ReadEnumerator(Type);
 		}
 		Tokens.Expect(";");
+		if (bNamespace)
+		{
+			Tokens.Expect("}");
+			Type.Cpp = Type.Name + "::" + Type.Cpp;
+		}
 		Result.Enums.push_back(std::move(Type));
+	}
+
+	// "namespace EName { enum Type : int { ... }; }", up to the enum.
+	std::string ReadEnumNamespace()
+	{
+		std::string Name = Tokens.ExpectIdentifier("the enum's namespace");
+		Tokens.Expect("{");
+		return Name;
 	}
 
 	void ReadEnumerator(Enum& Type)
@@ -229,11 +318,22 @@ private:
 		}
 	}
 
+	void CheckInterfaces() const
+	{
+		for (const Class& Each : Result.Classes)
+		{
+			if (Each.IsInterface() && Each.InterfaceBodyLine == 0)
+			{
+				throw SourceError(Each.Line, "interface " + Each.Name + " needs its class " + Each.GetFunctionOwner() + " behind it");
+			}
+		}
+	}
+
 	// Generated code relies on the header's own .generated.h as the last include.
 	void CheckIncludes() const
 	{
 		const std::string Wanted = Result.Stem + ".generated.h";
-		const bool bReflected = !Result.Classes.empty() || !Result.Structs.empty() || !Result.Enums.empty();
+		const bool bReflected = !Result.Classes.empty() || !Result.Delegates.empty() || !Result.Structs.empty() || !Result.Enums.empty();
 		if (bReflected && (Lexed.Includes.empty() || Lexed.Includes.back().Path != Wanted))
 		{
 			const int Line = Lexed.Includes.empty() ? 1 : Lexed.Includes.back().Line;

@@ -1,3 +1,4 @@
+#include "Signatures.h"
 #include "Writer.h"
 
 #include <set>
@@ -17,13 +18,18 @@ constexpr Reference EnumReference{ "Enum", "UEnum" };
 
 const Reference& GetReference(const PropertyType& Type)
 {
-	return Type.Kind == "Struct" ? StructReference : Type.Kind == "Enum" || Type.Kind == "Byte" ? EnumReference : ClassReference;
+	return Type.Kind == "Enum" || Type.Kind == "Byte" ? EnumReference : ClassReference;
 }
 
 std::string ConstructName(const Reference& Kind, const std::string& Type)
 {
 	return std::string("Z_Construct_") + Kind.Kind + "_" + Type;
 }
+
+constexpr Reference SignatureReference{ "Signature", "UFunction" };
+
+// What the tables of a container's element, or a map's key and value, are named behind the property.
+constexpr const char* InnerSuffixes[] = { "_Inner", "_MapValue" };
 
 class SourceWriter
 {
@@ -65,9 +71,17 @@ private:
 		{
 			WriteStruct(Type);
 		}
+		for (const Delegate& Type : Source.Delegates)
+		{
+			WriteDelegate(Type, nullptr);
+		}
 		for (const Class& Type : Source.Classes)
 		{
 			WriteClass(Type);
+			for (const Delegate& Each : Type.Delegates)
+			{
+				WriteDelegate(Each, &Type);
+			}
 		}
 	}
 
@@ -81,7 +95,10 @@ private:
 
 	void Declare(const PropertyType& Type)
 	{
-		Declare(GetReference(Type), Type.Referred);
+		if (Type.Kind != "Struct")
+		{
+			Declare(GetReference(Type), Type.Referred);
+		}
 		for (const PropertyType& Inner : Type.Inner)
 		{
 			Declare(Inner);
@@ -97,10 +114,19 @@ private:
 		}
 		for (const Function& Each : Type.Functions)
 		{
-			for (const Property& Parameter : Each.Parameters)
-			{
-				Declare(Parameter.Type);
-			}
+			DeclareAll(Each);
+		}
+		for (const Delegate& Each : Type.Delegates)
+		{
+			DeclareAll(Each.Signature);
+		}
+	}
+
+	void DeclareAll(const Function& Source)
+	{
+		for (const Property& Parameter : Source.Parameters)
+		{
+			Declare(Parameter.Type);
 		}
 	}
 
@@ -109,6 +135,10 @@ private:
 	{
 		for (const Header& Each : Headers)
 		{
+			for (const Delegate& Type : Each.Delegates)
+			{
+				DeclareAll(Type.Signature);
+			}
 			for (const Class& Type : Each.Structs)
 			{
 				DeclareAll(Type, StructReference);
@@ -145,10 +175,16 @@ private:
 
 	static std::string TypeFields(const PropertyType& Type)
 	{
+		if (Type.Kind == "Struct")
+		{
+			// Only the compiler knows whether it is a struct or a delegate.
+			const std::string Traits = "UECodeGen::TStructOrDelegate<" + Type.Cpp + ">::";
+			return ", .Kind = " + Traits + "Kind, .Struct = " + Traits + "GetStruct(), .Signature = " + Traits + "GetSignature()";
+		}
 		std::string Fields = ", .Kind = UECodeGen::EPropertyKind::" + Type.Kind;
 		if (Type.Kind == "Enum")
 		{
-			Fields += ", .Size = sizeof(" + Type.Cpp + ")";
+			Fields += ", .Size = UECodeGen::GetEnumSize<" + Type.Cpp + ">()";
 		}
 		if (!Type.Referred.empty())
 		{
@@ -169,10 +205,11 @@ private:
 		{
 			const std::string Name = Prefix + Each.Name;
 			WriteMeta(Name, Each.Meta);
-			if (!Each.Type.Inner.empty())
+			for (size_t Index = 0; Index < Each.Type.Inner.size(); ++Index)
 			{
-				Text += "\tstatic constexpr UECodeGen::FPropertyInfo " + Name + "_Inner{ .Name = " + Quote(Each.Name) +
-					TypeFields(Each.Type.Inner[0]) + " };\n";
+				const std::string InnerName = Each.Type.Kind == "Map" ? (Index ? "_Value" : "_Key") : "";
+				Text += "\tstatic constexpr UECodeGen::FPropertyInfo " + Name + InnerSuffixes[Index] +
+					"{ .Name = " + Quote(Each.Name + InnerName) + TypeFields(Each.Type.Inner[Index]) + " };\n";
 			}
 			if (Each.bBitField)
 			{
@@ -192,9 +229,13 @@ private:
 	{
 		std::string Fields = TypeFields(Each.Type);
 		Fields += Each.Flags.empty() ? "" : ", .Flags = " + Each.Flags;
-		Fields += Each.bBitField ? ", .SetBit = &" + Name + "_SetBit, .OwnerSize = sizeof(" + Owner + ")"
-								 : ", .Offset = offsetof(" + Owner + ", " + Each.Name + ")";
-		Fields += Each.Type.Inner.empty() ? "" : ", .Inner = &" + Name + "_Inner";
+		Fields += Each.bBitField ? "" : ", .Offset = offsetof(" + Owner + ", " + Each.Name + ")";
+		Fields += Each.bFixedArray ? ", .ArrayDim = std::extent_v<decltype(" + Owner + "::" + Each.Name + ")>" : "";
+		Fields += Each.bBitField ? ", .SetBit = &" + Name + "_SetBit, .OwnerSize = sizeof(" + Owner + ")" : "";
+		for (size_t Index = 0; Index < Each.Type.Inner.size(); ++Index)
+		{
+			Fields += (Index ? ", .Value = &" : ", .Inner = &") + Name + InnerSuffixes[Index];
+		}
 		return Fields + MetaField(Name, Each.Meta);
 	}
 
@@ -212,7 +253,7 @@ private:
 			Text += "\tstatic constexpr UECodeGen::FEnumeratorInfo Enumerators[] = {\n";
 			for (const Enumerator& Each : Type.Enumerators)
 			{
-				Text += "\t\t{ .Name = " + Quote(Each.Name) + ", .Value = static_cast<int64>(" + Type.Name + "::" + Each.Name + ")" +
+				Text += "\t\t{ .Name = " + Quote(Each.Name) + ", .Value = static_cast<int64>(" + Type.Cpp + "::" + Each.Name + ")" +
 					MetaField(Each.Name, Each.Meta) + " },\n";
 			}
 			Text += "\t};\n";
@@ -221,7 +262,7 @@ private:
 			", .bScoped = " + (Type.bScoped ? "true" : "false") + (Type.Enumerators.empty() ? "" : ", .Enumerators = Enumerators") +
 			MetaField("", Type.Meta) + " };\n};\n\n";
 		WriteConstruct(EnumReference, Type.Name);
-		Text += "template <>\nUEnum* StaticEnum<" + Type.Name + ">()\n{\n\treturn " + Construct + "();\n}\n\n";
+		Text += "template <>\nUEnum* StaticEnum<" + Type.Cpp + ">()\n{\n\treturn " + Construct + "();\n}\n\n";
 		Enums.push_back(Construct);
 	}
 
@@ -265,15 +306,24 @@ private:
 			WriteFunctionTables(Each);
 		}
 		WriteFunctionList(Type);
+		WriteInterfaces(Type);
 		Text += "\tstatic constexpr UECodeGen::FClassInfo Info{ .Type = { " + TypeInfo(Type, ClassReference) + " }";
 		Text += Type.Flags.empty() ? "" : ", .Flags = " + Type.Flags;
 		Text += Type.Config.empty() ? "" : ", .Config = " + Quote(Type.Config);
 		Text += Type.Functions.empty() ? "" : ", .Functions = Functions";
+		Text += Type.Bases.empty() ? "" : ", .Interfaces = Interfaces";
 		Text += ", .Constructor = &" + Type.Name + "::__DefaultConstructor };\n};\n\n";
 		WriteConstruct(ClassReference, Type.Name);
 		for (const Function& Each : Type.Functions)
 		{
-			WriteThunk(Type, Construct, Each);
+			if (Each.IsNative())
+			{
+				WriteThunk(Type, Construct, Each);
+			}
+			if (Each.IsEvent())
+			{
+				WriteEvent(Type, Construct, Each);
+			}
 		}
 		Classes.push_back(Construct);
 	}
@@ -295,6 +345,17 @@ private:
 		WriteProperties(Parms, Each.Name + "_", Each.Parameters);
 	}
 
+	static std::string FunctionFields(const Function& Each, const std::string& Native)
+	{
+		std::string Fields = ".Name = " + Quote(Each.Name) + ", .Flags = " + Each.Flags;
+		Fields += Native.empty() ? "" : ", .Native = &" + Native;
+		if (!Each.Parameters.empty())
+		{
+			Fields += ", .ParmsSize = sizeof(" + Each.Name + "_Parms), .Parameters = " + Each.Name + "_Properties";
+		}
+		return Fields + MetaField(Each.Name, Each.Meta);
+	}
+
 	void WriteFunctionList(const Class& Type)
 	{
 		if (Type.Functions.empty())
@@ -304,35 +365,130 @@ private:
 		Text += "\tstatic constexpr UECodeGen::FFunctionInfo Functions[] = {\n";
 		for (const Function& Each : Type.Functions)
 		{
-			Text += "\t\t{ .Name = " + Quote(Each.Name) + ", .Flags = " + Each.Flags + ", .Native = &" + Type.Name + "::exec" + Each.Name;
-			if (!Each.Parameters.empty())
-			{
-				Text += ", .ParmsSize = sizeof(" + Each.Name + "_Parms), .Parameters = " + Each.Name + "_Properties";
-			}
-			Text += MetaField(Each.Name, Each.Meta) + " },\n";
+			const std::string Native = Each.IsNative() ? Type.GetFunctionOwner() + "::exec" + Each.Name : std::string();
+			Text += "\t\t{ " + FunctionFields(Each, Native) + " },\n";
 		}
 		Text += "\t};\n";
+	}
+
+	void WriteInterfaces(const Class& Type)
+	{
+		if (Type.Bases.empty())
+		{
+			return;
+		}
+		Text += "\tstatic constexpr UECodeGen::FInterfaceInfo Interfaces[] = {\n";
+		for (const std::string& Base : Type.Bases)
+		{
+			Text += "\t\tUECodeGen::GetInterfaceInfo<" + Type.Name + ", " + Base + ">(),\n";
+		}
+		Text += "\t};\n";
+	}
+
+	// Owner is the class that declares it, or null.
+	void WriteDelegate(const Delegate& Type, const Class* Owner)
+	{
+		const std::string Construct = "Z_Construct_UDelegateFunction_" + Type.Name;
+		Text += "struct " + Construct + "_Statics\n{\n";
+		WriteFunctionTables(Type.Signature);
+		Text += "\tstatic constexpr UECodeGen::FSignatureInfo Info{ ";
+		Text += Owner ? ".Class = &" + ConstructName(ClassReference, Owner->Name) : ".Package = " + Quote("/Script/" + Module);
+		Text += ", .Function = { " + FunctionFields(Type.Signature, {}) + " } };\n};\n\n";
+		Text += "UFunction* " + Construct + "()\n{\n\tstatic UFunction* Made = nullptr;\n\treturn UECodeGen::Construct(Made, " + Construct +
+			"_Statics::Info);\n}\n\n";
+		Signatures.push_back(Construct);
 	}
 
 	// The function through which reflection calls: arguments and result lie in one block.
 	void WriteThunk(const Class& Type, const std::string& Construct, const Function& Each)
 	{
+		const std::string Owner = Type.GetFunctionOwner();
 		const bool bParms = !Each.Parameters.empty();
-		Text += "void " + Type.Name + "::exec" + Each.Name + "(UObject*" + (Each.bStatic ? "" : " Context") + ", void*" +
+		Text += "void " + Owner + "::exec" + Each.Name + "(UObject*" + (Each.bStatic ? "" : " Context") + ", void*" +
 			(bParms ? " Parms" : "") + ")\n{\n";
 		if (bParms)
 		{
 			Text += "\tauto& Block = *static_cast<" + Construct + "_Statics::" + Each.Name + "_Parms*>(Parms);\n";
 		}
-		Text += Each.bReturns ? "\tBlock.ReturnValue = " : "\t";
-		Text += Each.bStatic ? Type.Name + "::" : "static_cast<" + Type.Name + "*>(Context)->";
-		Text += Each.Name + "(";
-		const size_t Count = Each.Parameters.size() - Each.bReturns;
-		for (size_t Index = 0; Index < Count; ++Index)
+		std::string Callee = Owner + "::";
+		if (Type.IsInterface())
 		{
-			Text += (Index ? ", Block." : "Block.") + Each.Parameters[Index].Name;
+			Text += "\tauto* const Interface = static_cast<" + Owner + "*>(Context->GetNativeInterfaceAddress(" + Type.Name +
+				"::StaticClass()));\n\tif (!Interface)\n\t{\n\t\treturn;\n\t}\n";
+			Callee = "Interface->";
 		}
-		Text += ");\n}\n\n";
+		else if (!Each.bStatic)
+		{
+			Callee = "static_cast<" + Owner + "*>(Context)->";
+		}
+		Text += Each.bReturns ? "\tBlock.ReturnValue = " : "\t";
+		Text += Callee + Each.Name + (Each.IsEvent() ? "_Implementation(" : "(") + JoinArguments(Each, "Block.") + ");\n}\n\n";
+	}
+
+	// What C++ calls for an event: the Blueprint's function where a Blueprint has one, otherwise the C++ code where there is some.
+	void WriteEvent(const Class& Type, const std::string& Construct, const Function& Each)
+	{
+		const std::string Owner = Type.GetFunctionOwner();
+		if (Type.IsInterface())
+		{
+			Text += ::Declare(Each, Owner + "::" + Each.Name) + "\n{\n\tcheckf(false, TEXT(\"call Execute_" + Each.Name +
+				" instead\"));\n" + (Each.bReturns ? "\treturn {};\n" : "") + "}\n\n";
+			Text += DeclareExecute(Each, Owner) + "\n{\n";
+			Text += "\tUObject* const Object = const_cast<UObject*>(static_cast<const UObject*>(O));\n";
+			Text += "\tcheck(Object && Object->GetClass()->ImplementsInterface(" + Type.Name + "::StaticClass()));\n";
+			Text += "\tauto* const Interface = static_cast<" + Owner + "*>(Object->GetNativeInterfaceAddress(" + Type.Name +
+				"::StaticClass()));\n";
+			Text += "\tUFunction* const Function = Object->FindFunction(" + Quote(Each.Name) + ");\n";
+			WriteDirectCall(Each, "!Function || Function->HasAnyFunctionFlags(FUNC_Native)", "Interface->", "Interface");
+		}
+		else
+		{
+			Text += ::Declare(Each, Owner + "::" + Each.Name) + "\n{\n";
+			Text += "\tUObject* const Object = const_cast<" + Owner + "*>(this);\n";
+			Text += "\tUFunction* const Function = FindFunctionChecked(" + Quote(Each.Name) + ");\n";
+			WriteDirectCall(Each, "Function->HasAnyFunctionFlags(FUNC_Native)", "", "");
+		}
+		WriteProcessEvent(Construct, Each);
+		Text += "}\n\n";
+	}
+
+	// Condition: no Blueprint has taken the event over. Present: what must not be null for the call, or empty.
+	void WriteDirectCall(const Function& Each, const std::string& Condition, const std::string& Callee, const std::string& Present)
+	{
+		Text += "\tif (" + Condition + ")\n\t{\n";
+		if (Each.IsNative())
+		{
+			const std::string Call = Callee + Each.Name + "_Implementation(" + JoinArguments(Each, "") + ")";
+			Text += Present.empty() ? "" : "\t\tif (" + Present + ")\n\t\t{\n";
+			Text += "\t\t" + std::string(Each.bReturns ? "return " : "") + Call + ";\n";
+			Text += Present.empty() ? "" : "\t\t}\n";
+		}
+		const bool bNeedsReturn = !Each.IsNative() || !Present.empty() || !Each.bReturns;
+		Text += !bNeedsReturn ? "" : Each.bReturns ? "\t\treturn {};\n" : "\t\treturn;\n";
+		Text += "\t}\n";
+	}
+
+	// Calls Function on Object; results go back to the arguments given by reference.
+	void WriteProcessEvent(const std::string& Construct, const Function& Each)
+	{
+		if (Each.Parameters.empty())
+		{
+			Text += "\tObject->ProcessEvent(Function, nullptr);\n";
+			return;
+		}
+		Text += "\t" + Construct + "_Statics::" + Each.Name + "_Parms Block{};\n";
+		for (size_t Index = 0; Index < Each.NumArguments(); ++Index)
+		{
+			const std::string& Name = Each.Parameters[Index].Name;
+			Text += "\tBlock." + Name + " = " + Name + ";\n";
+		}
+		Text += "\tObject->ProcessEvent(Function, &Block);\n";
+		for (size_t Index = 0; Index < Each.NumArguments(); ++Index)
+		{
+			const Property& Parameter = Each.Parameters[Index];
+			Text += Parameter.bReference && !Parameter.bConst ? "\t" + Parameter.Name + " = Block." + Parameter.Name + ";\n" : "";
+		}
+		Text += Each.bReturns ? "\treturn Block.ReturnValue;\n" : "";
 	}
 
 	void WriteList(const Reference& Kind, const char* Name, const std::vector<std::string>& Constructs)
@@ -355,7 +511,9 @@ private:
 		WriteList(EnumReference, "Enums", Enums);
 		WriteList(StructReference, "Structs", Structs);
 		WriteList(ClassReference, "Classes", Classes);
+		WriteList(SignatureReference, "Signatures", Signatures);
 		Text += "\tstatic constexpr UECodeGen::FModuleTypes Types{ ";
+		Text += Signatures.empty() ? "" : ".Signatures = Signatures, ";
 		Text += Enums.empty() ? "" : ".Enums = Enums, ";
 		Text += Structs.empty() ? "" : ".Structs = Structs, ";
 		Text += Classes.empty() ? "" : ".Classes = Classes ";
@@ -369,6 +527,7 @@ private:
 	std::vector<std::string> Enums;
 	std::vector<std::string> Structs;
 	std::vector<std::string> Classes;
+	std::vector<std::string> Signatures;
 };
 }
 

@@ -19,6 +19,8 @@ struct Word
 
 constexpr Word ClassWords[] = {
 	{ "abstract", "CLASS_Abstract", "" },
+	{ "autocollapsecategories", "", "AutoCollapseCategories" },
+	{ "autoexpandcategories", "", "AutoExpandCategories" },
 	{ "blueprintable", "", "IsBlueprintBase" },
 	{ "blueprinttype", "", "BlueprintType" },
 	{ "classgroup", "", "ClassGroupNames" },
@@ -30,16 +32,23 @@ constexpr Word ClassWords[] = {
 	{ "deprecated", "CLASS_Deprecated", "" },
 	{ "displayname", "", "DisplayName" },
 	{ "editinlinenew", "CLASS_EditInlineNew", "" },
+	{ "experimental", "", "DevelopmentStatus", "Experimental" },
 	{ "hidecategories", "", "HideCategories" },
 	{ "hidedropdown", "CLASS_HideDropDown", "" },
+	{ "hidefunctions", "", "HideFunctions" },
 	{ "minimalapi", "CLASS_MinimalAPI", "" },
 	{ "notblueprintable", "", "IsBlueprintBase", "false" },
+	{ "noteditinlinenew", "", "" },
 	{ "notplaceable", "CLASS_NotPlaceable", "" },
+	{ "perobjectconfig", "CLASS_PerObjectConfig", "" },
+	{ "placeable", "", "" },
 	{ "showcategories", "", "ShowCategories" },
 	{ "transient", "CLASS_Transient", "" },
+	{ "within", "", "ClassWithin" },
 };
 
 constexpr Word TypeWords[] = {
+	{ "atomic", "", "" },
 	{ "blueprinttype", "", "BlueprintType" },
 	{ "displayname", "", "DisplayName" },
 };
@@ -53,8 +62,13 @@ constexpr Word EnumeratorWords[] = {
 constexpr Word PropertyWords[] = {
 	{ "advanceddisplay", "CPF_AdvancedDisplay", "" },
 	{ "assetregistrysearchable", "CPF_AssetRegistrySearchable", "" },
+	{ "blueprintassignable", "CPF_BlueprintAssignable", "" },
+	{ "blueprintauthorityonly", "CPF_BlueprintAuthorityOnly", "" },
+	{ "blueprintcallable", "CPF_BlueprintCallable", "" },
+	{ "blueprintgetter", "CPF_BlueprintVisible | CPF_BlueprintReadOnly", "BlueprintGetter" },
 	{ "blueprintreadonly", "CPF_BlueprintVisible | CPF_BlueprintReadOnly", "" },
 	{ "blueprintreadwrite", "CPF_BlueprintVisible", "" },
+	{ "blueprintsetter", "CPF_BlueprintVisible", "BlueprintSetter" },
 	{ "category", "", "Category" },
 	{ "config", "CPF_Config", "" },
 	{ "displayname", "", "DisplayName" },
@@ -63,13 +77,19 @@ constexpr Word PropertyWords[] = {
 	{ "editdefaultsonly", "CPF_Edit | CPF_DisableEditOnInstance", "" },
 	{ "editfixedsize", "CPF_EditFixedSize", "" },
 	{ "editinstanceonly", "CPF_Edit | CPF_DisableEditOnTemplate", "" },
+	{ "export", "CPF_ExportObject", "" },
 	{ "globalconfig", "CPF_Config | CPF_GlobalConfig", "" },
-	{ "instanced", "CPF_ExportObject | CPF_InstancedReference", "" },
+	{ "instanced", "CPF_ExportObject | CPF_InstancedReference | CPF_PersistentInstance", "EditInline" },
 	{ "interp", "CPF_Edit | CPF_BlueprintVisible | CPF_Interp", "" },
 	{ "noclear", "CPF_NoClear", "" },
+	{ "nonpieduplicatetransient", "CPF_NonPIEDuplicateTransient", "" },
+	{ "nontransactional", "CPF_NonTransactional", "" },
 	{ "replicated", "CPF_Net", "" },
 	{ "replicatedusing", "CPF_Net | CPF_RepNotify", "ReplicatedUsing" },
 	{ "savegame", "CPF_SaveGame", "" },
+	{ "simpledisplay", "CPF_SimpleDisplay", "" },
+	{ "skipserialization", "CPF_SkipSerialization", "" },
+	{ "textexporttransient", "CPF_TextExportTransient", "" },
 	{ "transient", "CPF_Transient", "" },
 	{ "visibleanywhere", "CPF_Edit | CPF_EditConst", "" },
 	{ "visibledefaultsonly", "CPF_Edit | CPF_EditConst | CPF_DisableEditOnInstance", "" },
@@ -77,12 +97,25 @@ constexpr Word PropertyWords[] = {
 };
 
 constexpr Word FunctionWords[] = {
+	{ "blueprintauthorityonly", "FUNC_BlueprintAuthorityOnly", "" },
 	{ "blueprintcallable", "FUNC_BlueprintCallable", "" },
+	{ "blueprintcosmetic", "FUNC_BlueprintCosmetic", "" },
+	{ "blueprintgetter", "FUNC_BlueprintCallable | FUNC_BlueprintPure", "BlueprintGetter", "" },
+	{ "blueprintimplementableevent", "FUNC_Event | FUNC_BlueprintEvent", "" },
+	{ "blueprintinternaluseonly", "", "BlueprintInternalUseOnly" },
+	{ "blueprintnativeevent", "FUNC_Native | FUNC_Event | FUNC_BlueprintEvent", "" },
 	{ "blueprintpure", "FUNC_BlueprintCallable | FUNC_BlueprintPure", "" },
+	{ "blueprintsetter", "FUNC_BlueprintCallable", "BlueprintSetter", "" },
 	{ "callineditor", "", "CallInEditor" },
 	{ "category", "", "Category" },
 	{ "displayname", "", "DisplayName" },
 	{ "exec", "FUNC_Exec", "" },
+};
+
+constexpr Word ParameterWords[] = {
+	{ "displayname", "", "DisplayName" },
+	{ "ref", "CPF_ReferenceParm", "" },
+	{ "required", "CPF_RequiredParm", "" },
 };
 
 std::span<const Word> GetWords(SpecifierSet Set)
@@ -95,13 +128,14 @@ std::span<const Word> GetWords(SpecifierSet Set)
 	case SpecifierSet::Enumerator: return EnumeratorWords;
 	case SpecifierSet::Property: return PropertyWords;
 	case SpecifierSet::Function: return FunctionWords;
+	case SpecifierSet::Parameter: return ParameterWords;
 	}
 	return {};
 }
 
 std::string_view GetSetName(SpecifierSet Set)
 {
-	static constexpr std::string_view Names[] = { "class", "struct", "enum", "enumerator", "property", "function" };
+	static constexpr std::string_view Names[] = { "class", "struct", "enum", "enumerator", "property", "function", "parameter" };
 	return Names[static_cast<size_t>(Set)];
 }
 

@@ -22,6 +22,7 @@ enum class SpecifierSet
 	Enumerator,
 	Property,
 	Function,
+	Parameter,
 };
 
 // Reads "( ... )" behind the macro's name. Words are compared without case; an unknown one is an error.

@@ -15,15 +15,52 @@ struct PlainType
 
 constexpr PlainType PlainTypes[] = {
 	{ "bool", "Bool" },
-	{ "uint8", "Byte" },
+	{ "int8", "Int8" },
+	{ "int16", "Int16" },
 	{ "int32", "Int" },
 	{ "int", "Int" },
 	{ "int64", "Int64" },
+	{ "uint8", "Byte" },
+	{ "uint16", "UInt16" },
+	{ "uint32", "UInt32" },
+	{ "uint64", "UInt64" },
 	{ "float", "Float" },
 	{ "double", "Double" },
 	{ "FString", "Str" },
 	{ "FName", "Name" },
 	{ "FText", "Text" },
+};
+
+// A template around the name of one type.
+struct Wrapper
+{
+	std::string_view Cpp;
+	std::string_view Kind;
+	std::string_view Prefixes;
+};
+
+constexpr Wrapper Wrappers[] = {
+	{ "TEnumAsByte", "Byte", "E" },
+	{ "TObjectPtr", "Object", "UA" },
+	{ "TScriptInterface", "Interface", "I" },
+	{ "TSoftClassPtr", "SoftClass", "UA" },
+	{ "TSoftObjectPtr", "SoftObject", "UA" },
+	{ "TSubclassOf", "Class", "UA" },
+	{ "TWeakObjectPtr", "WeakObject", "UA" },
+};
+
+// A template around any types.
+struct Container
+{
+	std::string_view Cpp;
+	std::string_view Kind;
+	int Arguments;
+};
+
+constexpr Container Containers[] = {
+	{ "TArray", "Array", 1 },
+	{ "TMap", "Map", 2 },
+	{ "TSet", "Set", 1 },
 };
 
 bool HasPrefix(const std::string& Name, std::string_view Prefixes)
@@ -38,36 +75,65 @@ bool HasPrefix(const std::string& Name, std::string_view Prefixes)
 
 PropertyType ReadBareType(Cursor& Tokens);
 
-PropertyType ReadArray(Cursor& Tokens, int Line)
+PropertyType ReadContainer(Cursor& Tokens, const Container& Kind, int Line)
 {
-	if (Tokens.Peek().Is("TArray"))
+	PropertyType Result{ std::string(Kind.Kind), std::string(Kind.Cpp) + "<", {}, {} };
+	for (int Index = 0; Index < Kind.Arguments; ++Index)
 	{
-		throw SourceError(Line, "an array of arrays is not known to reflection");
+		if (Index > 0)
+		{
+			Tokens.Expect(",");
+		}
+		PropertyType Inner = ReadBareType(Tokens);
+		if (!Inner.Inner.empty())
+		{
+			throw SourceError(Line, "a container of containers is not known to reflection");
+		}
+		Result.Cpp += (Index > 0 ? ", " : "") + Inner.Cpp;
+		Result.Inner.push_back(std::move(Inner));
 	}
-	PropertyType Inner = ReadBareType(Tokens);
-	PropertyType Result{ "Array", "TArray<" + Inner.Cpp + ">", {}, {} };
-	Result.Inner.push_back(std::move(Inner));
+	Result.Cpp += ">";
 	return Result;
+}
+
+// "::Type" behind the name of an enum's namespace, or nothing.
+std::string ReadEnumMember(Cursor& Tokens)
+{
+	if (Tokens.TakeIf("::"))
+	{
+		Tokens.Expect("Type");
+		return "::Type";
+	}
+	return {};
+}
+
+PropertyType ReadWrapper(Cursor& Tokens, const Wrapper& Kind, int Line)
+{
+	Tokens.TakeIf("const");
+	Tokens.TakeIf("class") || Tokens.TakeIf("enum");
+	const std::string Argument = Tokens.ExpectIdentifier("a type");
+	const std::string Name(Kind.Cpp);
+	if (!HasPrefix(Argument, Kind.Prefixes))
+	{
+		RefuseType(Line, Name + "<" + Argument + ">");
+	}
+	const std::string Cpp = Argument + (Kind.Kind == "Byte" ? ReadEnumMember(Tokens) : "");
+	// Of an interface reflection knows the class that stands for it.
+	const std::string Referred = Kind.Kind == "Interface" ? "U" + Argument.substr(1) : Argument;
+	return { std::string(Kind.Kind), Name + "<" + Cpp + ">", Referred, {} };
 }
 
 PropertyType ReadTemplate(Cursor& Tokens, const std::string& Name, int Line)
 {
 	Tokens.Expect("<");
 	PropertyType Result;
-	if (Name == "TArray")
+	if (const auto Kind = std::ranges::find(Containers, Name, &Container::Cpp); Kind != std::end(Containers))
 	{
-		Result = ReadArray(Tokens, Line);
+		Result = ReadContainer(Tokens, *Kind, Line);
 	}
-	else if (Name == "TObjectPtr" || Name == "TSubclassOf" || Name == "TEnumAsByte")
+	else if (const auto Around = std::ranges::find(Wrappers, Name, &Wrapper::Cpp); Around != std::end(Wrappers))
 	{
-		Tokens.TakeIf("class") || Tokens.TakeIf("enum");
-		const std::string Argument = Tokens.ExpectIdentifier("a type");
-		const bool bEnum = Name == "TEnumAsByte";
-		if (!HasPrefix(Argument, bEnum ? "E" : "UA"))
-		{
-			RefuseType(Line, Name + "<" + Argument + ">");
-		}
-		Result = { bEnum ? "Byte" : Name == "TObjectPtr" ? "Object" : "Class", Name + "<" + Argument + ">", Argument, {} };
+		Result = ReadWrapper(Tokens, *Around, Line);
 	}
 	else
 	{
@@ -82,6 +148,10 @@ PropertyType ReadBareType(Cursor& Tokens)
 	const int Line = Tokens.GetLine();
 	Tokens.TakeIf("class") || Tokens.TakeIf("struct") || Tokens.TakeIf("enum");
 	const std::string Name = Tokens.ExpectIdentifier("a type");
+	if (HasPrefix(Name, "E") && Tokens.Peek().Is("::") && Tokens.Peek(1).Is("Type"))
+	{
+		return { "Byte", "TEnumAsByte<" + Name + ReadEnumMember(Tokens) + ">", Name, {} };
+	}
 	if (Tokens.Peek().Is("::"))
 	{
 		RefuseType(Line, Name + "::" + Tokens.Peek(1).Text);
@@ -95,6 +165,10 @@ PropertyType ReadBareType(Cursor& Tokens)
 		return { std::string(Plain->Kind), Name, {}, {} };
 	}
 	const bool bPointer = Tokens.TakeIf("*");
+	if (bPointer && Name == "UClass")
+	{
+		return { "Class", "UClass*", "UObject", {} };
+	}
 	if (bPointer && HasPrefix(Name, "UA"))
 	{
 		return { "Object", Name + "*", Name, {} };
@@ -118,7 +192,7 @@ DeclaredType ReadType(Cursor& Tokens)
 		RefuseType(Tokens.GetLine(), Result.Type.Cpp + "*");
 	}
 	Result.bReference = Tokens.TakeIf("&");
-	if (Result.bConst && Result.Type.Kind == "Object")
+	if (Result.bConst && !Result.bReference && Result.Type.Kind == "Object")
 	{
 		Result.Type.Cpp = "const " + Result.Type.Cpp;
 	}

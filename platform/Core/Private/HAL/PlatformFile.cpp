@@ -117,12 +117,22 @@ bool IPlatformFile::CopyFile(const TCHAR* To, const TCHAR* From)
 
 FDateTime IPlatformFile::GetTimeStamp(const TCHAR* Filename)
 {
-	const FStatus Status(Filename);
+	return GetStatData(Filename).ModificationTime;
+}
+
+FFileStatData IPlatformFile::GetStatData(const TCHAR* FilenameOrDirectory)
+{
+	const FStatus Status(FilenameOrDirectory);
 	if (!Status.bFound)
 	{
-		return FDateTime::MinValue();
+		return FFileStatData();
 	}
-	return FDateTime::FromUnixTimestamp(Status.Stat.st_mtim.tv_sec) + FTimespan(Status.Stat.st_mtim.tv_nsec / 100);
+	const timespec& Time = Status.Stat.st_mtim;
+	return { .ModificationTime = FDateTime::FromUnixTimestamp(Time.tv_sec) + FTimespan(Time.tv_nsec / 100),
+		.FileSize = Status.IsDirectory() ? -1 : static_cast<int64>(Status.Stat.st_size),
+		.bIsDirectory = Status.IsDirectory(),
+		.bIsReadOnly = Status.IsReadOnlyFile(),
+		.bIsValid = true };
 }
 
 void IPlatformFile::SetTimeStamp(const TCHAR* Filename, FDateTime DateTime)

@@ -120,9 +120,25 @@ FArchive& operator<<(FArchive& Ar, FText& Value)
 	if (Ar.IsLoading())
 	{
 		Value = Kind == EKind::Localized ? FText::Localized(*Namespace, *Key, *Source)
-			: Kind == EKind::Invariant	 ? FText::AsCultureInvariant(Source)
+			: Kind == EKind::Invariant   ? FText::AsCultureInvariant(Source)
 										 : FText::FromString(Source);
 	}
+	return Ar;
+}
+
+FArchive& operator<<(FArchive& Ar, FDateTime& Value)
+{
+	int64 Ticks = Value.GetTicks();
+	Ar << Ticks;
+	Value = FDateTime(Ticks);
+	return Ar;
+}
+
+FArchive& operator<<(FArchive& Ar, FTimespan& Value)
+{
+	int64 Ticks = Value.GetTicks();
+	Ar << Ticks;
+	Value = FTimespan(Ticks);
 	return Ar;
 }
 

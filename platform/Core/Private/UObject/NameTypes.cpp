@@ -1,5 +1,7 @@
 #include "UObject/NameTypes.h"
 
+#include "Internationalization/Text.h"
+
 #include "Containers/StringConv.h"
 
 #include <deque>
@@ -153,4 +155,22 @@ int32 FName::Compare(const FName& Other) const
 FString LexToString(const FName& Name)
 {
 	return Name.ToString();
+}
+
+bool FName::IsValidObjectName(FText& OutReason) const
+{
+	const FString Text = ToString();
+	if (IsNone())
+	{
+		OutReason = FText::FromString(TEXT("A name can't be empty."));
+		return false;
+	}
+	const SIZE_T Invalid = Text.View().find_first_of(INVALID_OBJECTNAME_CHARACTERS);
+	if (Invalid != std::u16string_view::npos)
+	{
+		OutReason = FText::FromString(FString::Printf(
+			TEXT("The name '%s' can't contain the character '%c'."), *Text, Text[static_cast<int32>(Invalid)]));
+		return false;
+	}
+	return true;
 }

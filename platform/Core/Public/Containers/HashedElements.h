@@ -2,10 +2,146 @@
 
 #include "Containers/Array.h"
 
+/** What an element of a hashed container has before it. */
+struct FHashedSlotHead
+{
+	uint32 Hash = 0;
+	/** False for a hole. */
+	bool bLive = true;
+};
+
 /**
- * What TSet and TMap share: elements in the order they were added, found by key through a hash.
- * A removal leaves a hole that the next new element takes, as in the engine. Up to eight elements are searched in a row;
- * beyond that a table of positions (open addressing, at most half full) is kept.
+ * Where the elements of a hashed container are, without their type. A removal leaves a hole that the next new element takes, as in the
+ * engine. Up to eight elements are searched in a row; beyond that a table of positions (open addressing, at most half full) is kept.
+ *
+ * HeadsType gives the heads of the container's slots: Num() and [Position].
+ */
+class FHashPositions
+{
+public:
+	int32 NumHoles() const { return Holes.Num(); }
+	/** @return a hole, which counts as none from now on, or INDEX_NONE */
+	int32 TakeHole() { return Holes.IsEmpty() ? INDEX_NONE : Holes.Pop(); }
+
+	/** @param Matches whether the element at a position, whose hash fits, is the one looked for */
+	template <typename HeadsType, typename MatchType>
+	int32 Find(const HeadsType& Heads, uint32 Hash, const MatchType& Matches) const
+	{
+		if (Table.IsEmpty())
+		{
+			for (int32 Position = 0; Position < Heads.Num(); ++Position)
+			{
+				const FHashedSlotHead& Head = Heads[Position];
+				if (Head.bLive && Head.Hash == Hash && Matches(Position))
+				{
+					return Position;
+				}
+			}
+			return INDEX_NONE;
+		}
+		const uint32 Mask = static_cast<uint32>(Table.Num() - 1);
+		for (uint32 Index = Hash & Mask;; Index = (Index + 1) & Mask)
+		{
+			const int32 Position = Table.GetData()[Index];
+			if (Position == Free)
+			{
+				return INDEX_NONE;
+			}
+			if (Position != Removed && Heads[Position].Hash == Hash && Matches(Position))
+			{
+				return Position;
+			}
+		}
+	}
+
+	/** To be called once a new element is in its slot. */
+	template <typename HeadsType>
+	void Add(const HeadsType& Heads, int32 Position)
+	{
+		if (Heads.Num() > LinearLimit)
+		{
+			Enter(Heads, Position);
+		}
+	}
+
+	/** To be called while the element that goes is still in its slot. */
+	template <typename HeadsType>
+	void Remove(const HeadsType& Heads, int32 Position)
+	{
+		if (!Table.IsEmpty())
+		{
+			const uint32 Mask = static_cast<uint32>(Table.Num() - 1);
+			uint32 Index = Heads[Position].Hash & Mask;
+			while (Table.GetData()[Index] != Position)
+			{
+				Index = (Index + 1) & Mask;
+			}
+			Table.GetData()[Index] = Removed;
+		}
+		Holes.Add(Position);
+	}
+
+	/** Makes the table anew, for elements whose hashes have changed. */
+	template <typename HeadsType>
+	void Rebuild(const HeadsType& Heads)
+	{
+		int32 Size = 32;
+		while (Size < Heads.Num() * 4)
+		{
+			Size *= 2;
+		}
+		Table.Reset();
+		Table.SetNumUninitialized(Size);
+		std::fill(Table.begin(), Table.end(), Free);
+		TableUsed = 0;
+		for (int32 Position = 0; Position < Heads.Num(); ++Position)
+		{
+			if (Heads[Position].bLive)
+			{
+				Enter(Heads, Position);
+			}
+		}
+	}
+
+	void Empty()
+	{
+		Holes.Empty();
+		Table.Empty();
+		TableUsed = 0;
+	}
+
+private:
+	static constexpr int32 LinearLimit = 8;
+	static constexpr int32 Free = -1;
+	static constexpr int32 Removed = -2;
+
+	template <typename HeadsType>
+	void Enter(const HeadsType& Heads, int32 Position)
+	{
+		if (++TableUsed * 2 > Table.Num())
+		{
+			Rebuild(Heads);
+			return;
+		}
+		const uint32 Mask = static_cast<uint32>(Table.Num() - 1);
+		uint32 Index = Heads[Position].Hash & Mask;
+		while (Table.GetData()[Index] != Free)
+		{
+			Index = (Index + 1) & Mask;
+		}
+		Table.GetData()[Index] = Position;
+	}
+
+	TArray<int32> Holes;
+	/** Positions by hash; empty while the elements are searched in a row. */
+	TArray<int32> Table;
+	/** Entries of the table that are not Free. */
+	int32 TableUsed = 0;
+};
+
+/**
+ * What TSet and TMap share: elements in the order they were added, found by key through a hash. Same layout as FScriptSet, through
+ * which reflection reaches it.
  *
  * KeyFuncs gives KeyOf(Element); keys need GetTypeHash and ==.
  */
@@ -15,24 +151,22 @@ class THashedElements
 	struct FSlot
 	{
 		FSlot(uint32 InHash, ElementType&& InElement)
-			: Hash(InHash)
+			: Head{ InHash }
 			, Element(MoveTemp(InElement))
 		{
 		}
 		FSlot(const FSlot& Other)
-			: Hash(Other.Hash)
-			, bLive(Other.bLive)
+			: Head(Other.Head)
 		{
-			if (bLive)
+			if (Head.bLive)
 			{
 				new (&Element) ElementType(Other.Element);
 			}
 		}
 		FSlot(FSlot&& Other) noexcept
-			: Hash(Other.Hash)
-			, bLive(Other.bLive)
+			: Head(Other.Head)
 		{
-			if (bLive)
+			if (Head.bLive)
 			{
 				new (&Element) ElementType(MoveTemp(Other.Element));
 			}
@@ -43,24 +177,29 @@ class THashedElements
 		void Fill(uint32 InHash, ElementType&& InElement)
 		{
 			new (&Element) ElementType(MoveTemp(InElement));
-			Hash = InHash;
-			bLive = true;
+			Head = { InHash };
 		}
 		void Clear()
 		{
-			if (bLive)
+			if (Head.bLive)
 			{
 				Element.~ElementType();
-				bLive = false;
+				Head.bLive = false;
 			}
 		}
 
-		uint32 Hash;
-		bool bLive = true;
+		FHashedSlotHead Head;
 		union
 		{
 			ElementType Element;
 		};
+	};
+
+	struct FHeads
+	{
+		const TArray<FSlot>& Slots;
+		int32 Num() const { return Slots.Num(); }
+		const FHashedSlotHead& operator[](int32 Position) const { return Slots.GetData()[Position].Head; }
 	};
 
 	template <typename SlotType, typename ValueType>
@@ -79,7 +218,7 @@ class THashedElements
 		bool operator==(const TIteratorBase& Other) const { return Slot == Other.Slot; }
 		void SkipHoles()
 		{
-			while (Slot != End && !Slot->bLive)
+			while (Slot != End && !Slot->Head.bLive)
 			{
 				++Slot;
 			}
@@ -90,14 +229,13 @@ public:
 	using FIterator = TIteratorBase<FSlot, ElementType>;
 	using FConstIterator = TIteratorBase<const FSlot, const ElementType>;
 
-	int32 Num() const { return Slots.Num() - Holes.Num(); }
+	int32 Num() const { return Slots.Num() - Positions.NumHoles(); }
 	bool IsEmpty() const { return Num() == 0; }
 
 	void Empty(int32 Slack = 0)
 	{
 		Slots.Empty(Slack);
-		Holes.Empty();
-		Table.Empty();
+		Positions.Empty();
 	}
 	void Reset() { Empty(); }
 	void Reserve(int32 Count) { Slots.Reserve(Count); }
@@ -124,7 +262,7 @@ protected:
 		{
 			FSlot& Slot = Slots[Position];
 			Slot.Element = MoveTemp(Element);
-			Slot.Hash = Hash;
+			Slot.Head.Hash = Hash;
 			return Slot.Element;
 		}
 		return AddNew(Hash, MoveTemp(Element));
@@ -133,20 +271,16 @@ protected:
 	/** The key must not be there. */
 	ElementType& AddNew(uint32 Hash, ElementType&& Element)
 	{
-		int32 Position;
-		if (Holes.IsEmpty())
+		int32 Position = Positions.TakeHole();
+		if (Position == INDEX_NONE)
 		{
 			Position = Slots.Emplace(Hash, MoveTemp(Element));
 		}
 		else
 		{
-			Position = Holes.Pop();
 			Slots[Position].Fill(Hash, MoveTemp(Element));
 		}
-		if (Slots.Num() > LinearLimit)
-		{
-			Enter(Position);
-		}
+		Positions.Add(FHeads{ Slots }, Position);
 		return Slots[Position].Element;
 	}
 
@@ -158,20 +292,12 @@ protected:
 		{
 			return 0;
 		}
-		if (!Table.IsEmpty())
-		{
-			Table[TableIndexOf(Position)] = Removed;
-		}
+		Positions.Remove(FHeads{ Slots }, Position);
 		Slots[Position].Clear();
-		Holes.Add(Position);
 		return 1;
 	}
 
 private:
-	static constexpr int32 LinearLimit = 8;
-	static constexpr int32 Free = -1;
-	static constexpr int32 Removed = -2;
-
 	template <typename IteratorType, typename SlotType>
 	static IteratorType First(SlotType* Begin, SlotType* End)
 	{
@@ -183,87 +309,10 @@ private:
 	template <typename KeyType>
 	int32 FindPosition(const KeyType& Key, uint32 Hash) const
 	{
-		if (Table.IsEmpty())
-		{
-			for (const FSlot& Slot : Slots)
-			{
-				if (Slot.bLive && Slot.Hash == Hash && KeyFuncs::KeyOf(Slot.Element) == Key)
-				{
-					return static_cast<int32>(&Slot - Slots.GetData());
-				}
-			}
-			return INDEX_NONE;
-		}
-		const uint32 Mask = static_cast<uint32>(Table.Num() - 1);
-		for (uint32 Index = Hash & Mask;; Index = (Index + 1) & Mask)
-		{
-			const int32 Position = Table.GetData()[Index];
-			if (Position == Free)
-			{
-				return INDEX_NONE;
-			}
-			if (Position != Removed)
-			{
-				const FSlot& Slot = Slots.GetData()[Position];
-				if (Slot.Hash == Hash && KeyFuncs::KeyOf(Slot.Element) == Key)
-				{
-					return Position;
-				}
-			}
-		}
-	}
-
-	int32 TableIndexOf(int32 Position) const
-	{
-		const uint32 Mask = static_cast<uint32>(Table.Num() - 1);
-		uint32 Index = Slots[Position].Hash & Mask;
-		while (Table[static_cast<int32>(Index)] != Position)
-		{
-			Index = (Index + 1) & Mask;
-		}
-		return static_cast<int32>(Index);
-	}
-
-	void Enter(int32 Position)
-	{
-		if (++TableUsed * 2 > Table.Num())
-		{
-			Rebuild();
-			return;
-		}
-		const uint32 Mask = static_cast<uint32>(Table.Num() - 1);
-		uint32 Index = Slots[Position].Hash & Mask;
-		while (Table.GetData()[Index] != Free)
-		{
-			Index = (Index + 1) & Mask;
-		}
-		Table.GetData()[Index] = Position;
-	}
-
-	void Rebuild()
-	{
-		int32 Size = 32;
-		while (Size < Slots.Num() * 4)
-		{
-			Size *= 2;
-		}
-		Table.Reset();
-		Table.SetNumUninitialized(Size);
-		std::fill(Table.begin(), Table.end(), Free);
-		TableUsed = 0;
-		for (int32 Position = 0; Position < Slots.Num(); ++Position)
-		{
-			if (Slots[Position].bLive)
-			{
-				Enter(Position);
-			}
-		}
+		return Positions.Find(
+			FHeads{ Slots }, Hash, [&](int32 Position) { return KeyFuncs::KeyOf(Slots.GetData()[Position].Element) == Key; });
 	}
 
 	TArray<FSlot> Slots;
-	TArray<int32> Holes;
-	/** Positions by hash; empty while the elements are searched in a row. */
-	TArray<int32> Table;
-	/** Entries of the table that are not Free. */
-	int32 TableUsed = 0;
+	FHashPositions Positions;
 };

@@ -31,6 +31,19 @@ private:
 	FString Path;
 };
 
+/** What a file system knows of a file or directory. */
+struct FFileStatData
+{
+	/** UTC. */
+	FDateTime ModificationTime = FDateTime::MinValue();
+	/** In bytes; -1 for a directory. */
+	int64 FileSize = -1;
+	bool bIsDirectory = false;
+	bool bIsReadOnly = false;
+	/** False when there is no such file or directory. */
+	bool bIsValid = false;
+};
+
 /**
  * The file system. Relative paths are relative to FPlatformProcess::BaseDir, "\" counts as "/". A file is a regular file here, or a
  * symbolic link to one; a link to a directory counts as a directory. A file on which nobody has the permission to write is read-only:
@@ -54,6 +67,8 @@ public:
 	/** UTC; FDateTime::MinValue when there is no such file or directory. */
 	FDateTime GetTimeStamp(const TCHAR* Filename);
 	void SetTimeStamp(const TCHAR* Filename, FDateTime DateTime);
+	/** All of it in one question. */
+	FFileStatData GetStatData(const TCHAR* FilenameOrDirectory);
 
 	/** @return null when the file can't be opened */
 	TUniquePtr<IFileHandle> OpenRead(const TCHAR* Filename);

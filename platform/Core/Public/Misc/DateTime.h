@@ -3,6 +3,9 @@
 #include "Containers/UnrealString.h"
 #include "Misc/Timespan.h"
 
+class FOutputDevice;
+class UObject;
+
 /** A date and time of day of the Gregorian calendar, without a time zone: ticks of 100 nanoseconds since 1 January of the year 1. */
 struct CORE_API FDateTime
 {
@@ -30,6 +33,11 @@ struct CORE_API FDateTime
 	 * h hour of 12, H hour, M minute, S second, s millisecond; any other character stands for itself.
 	 */
 	FString ToString(const TCHAR* Format) const;
+	/** "2026.01.31-12.00.00", with or without ".123" behind it. @return false, with nothing written, for any other text */
+	static bool Parse(const FString& Text, FDateTime& OutDateTime);
+	// As a property's value: with milliseconds.
+	bool ExportTextItem(FString& ValueStr, const FDateTime& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
+	bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 
 	constexpr FDateTime operator+(FTimespan Other) const { return FDateTime(Ticks + Other.GetTicks()); }
 	constexpr FDateTime operator-(FTimespan Other) const { return FDateTime(Ticks - Other.GetTicks()); }

@@ -2,6 +2,9 @@
 
 #include "Containers/UnrealString.h"
 
+class FOutputDevice;
+class UObject;
+
 /** How a GUID is written. */
 enum class EGuidFormats : uint8
 {
@@ -30,6 +33,11 @@ struct CORE_API FGuid
 	bool IsValid() const { return (A | B | C | D) != 0; }
 	void AppendString(FString& Out, EGuidFormats Format = EGuidFormats::Digits) const;
 	FString ToString(EGuidFormats Format = EGuidFormats::Digits) const;
+	/** Any of the formats. @return false, with nothing written, for any other text */
+	static bool Parse(const FString& Text, FGuid& OutGuid);
+	// As a property's value: 32 digits.
+	bool ExportTextItem(FString& ValueStr, const FGuid& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
+	bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 	bool operator==(const FGuid&) const = default;
 
 	uint32 A = 0;

@@ -17,6 +17,7 @@ public:
 	static bool IsProjectFilePathSet() { return !GetProjectFilePath().IsEmpty(); }
 	/** The editor's own state. */
 	static FString EngineDir();
+	static FString EngineContentDir() { return EngineDir() + TEXT("Content/"); }
 
 	static bool FileExists(const FString& InPath);
 	static bool DirectoryExists(const FString& InPath);

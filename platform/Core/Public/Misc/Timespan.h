@@ -1,8 +1,11 @@
 #pragma once
 
-#include "CoreTypes.h"
+#include "Containers/UnrealString.h"
 
 #include <compare>
+
+class FOutputDevice;
+class UObject;
 
 /** Ticks are of 100 nanoseconds. */
 namespace ETimespan
@@ -32,6 +35,15 @@ struct FTimespan
 	constexpr double GetTotalHours() const { return static_cast<double>(Ticks) / ETimespan::TicksPerHour; }
 	constexpr double GetTotalMinutes() const { return static_cast<double>(Ticks) / ETimespan::TicksPerMinute; }
 	constexpr double GetTotalSeconds() const { return static_cast<double>(Ticks) / ETimespan::TicksPerSecond; }
+
+	/** "1.02:03:04.0050000": days when there are any, hours, minutes, seconds; negative ones with a "-" before. */
+	CORE_API FString ToString() const;
+	/** What ToString gives. @return false, with nothing written, for any other text */
+	CORE_API static bool Parse(const FString& Text, FTimespan& OutTimespan);
+	// As a property's value.
+	CORE_API bool ExportTextItem(
+		FString& ValueStr, const FTimespan& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
+	CORE_API bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 
 	constexpr auto operator<=>(const FTimespan&) const = default;
 

@@ -5,6 +5,11 @@
 #include "Containers/UnrealString.h"
 #include "Internationalization/Text.h"
 #include "Math/Color.h"
+#include "Math/IntPoint.h"
+#include "Math/Transform.h"
+#include "Math/Vector2D.h"
+#include "Math/Vector4.h"
+#include "Misc/DateTime.h"
 #include "Misc/Guid.h"
 #include "UObject/NameTypes.h"
 
@@ -88,6 +93,49 @@ inline FArchive& operator<<(FArchive& Ar, FLinearColor& Value)
 {
 	return Ar << Value.R << Value.G << Value.B << Value.A;
 }
+
+inline FArchive& operator<<(FArchive& Ar, FColor& Value)
+{
+	return Ar << Value.B << Value.G << Value.R << Value.A;
+}
+
+inline FArchive& operator<<(FArchive& Ar, FIntPoint& Value)
+{
+	return Ar << Value.X << Value.Y;
+}
+
+inline FArchive& operator<<(FArchive& Ar, FVector& Value)
+{
+	return Ar << Value.X << Value.Y << Value.Z;
+}
+
+inline FArchive& operator<<(FArchive& Ar, FVector2D& Value)
+{
+	return Ar << Value.X << Value.Y;
+}
+
+inline FArchive& operator<<(FArchive& Ar, FVector4& Value)
+{
+	return Ar << Value.X << Value.Y << Value.Z << Value.W;
+}
+
+inline FArchive& operator<<(FArchive& Ar, FRotator& Value)
+{
+	return Ar << Value.Pitch << Value.Yaw << Value.Roll;
+}
+
+inline FArchive& operator<<(FArchive& Ar, FQuat& Value)
+{
+	return Ar << Value.X << Value.Y << Value.Z << Value.W;
+}
+
+inline FArchive& operator<<(FArchive& Ar, FTransform& Value)
+{
+	return Ar << Value.Rotation << Value.Translation << Value.Scale3D;
+}
+
+CORE_API FArchive& operator<<(FArchive& Ar, FDateTime& Value);
+CORE_API FArchive& operator<<(FArchive& Ar, FTimespan& Value);
 
 /** A number of elements. More than the bytes that are left is an error and reads as 0, so that no damaged number fills the memory. */
 CORE_API FArchive& SerializeCount(FArchive& Ar, int32& Count);

@@ -6,8 +6,8 @@
 class CORE_API FMemoryReader : public FArchive
 {
 public:
-	explicit FMemoryReader(const TArray<uint8>& Bytes)
-		: FMemoryReader(Bytes.GetData(), Bytes.Num())
+	explicit FMemoryReader(const TArray<uint8>& InBytes)
+		: FMemoryReader(InBytes.GetData(), InBytes.Num())
 	{
 	}
 	FMemoryReader(const uint8* InData, int64 InSize)

@@ -2,6 +2,7 @@
 
 #include "CoreTypes.h"
 
+#include <bit>
 #include <type_traits>
 
 /** Murmur3's finaliser: spreads an integer's bits, so that tables may take the low ones. */
@@ -25,6 +26,17 @@ requires(std::is_integral_v<T> || std::is_enum_v<T>) constexpr uint32 GetTypeHas
 {
 	const auto Wide = static_cast<uint64>(Value);
 	return MurmurFinalize32(static_cast<uint32>(Wide) ^ static_cast<uint32>(Wide >> 32));
+}
+
+/** Both zeros are equal, so they have one hash. */
+inline uint32 GetTypeHash(double Value)
+{
+	return GetTypeHash(std::bit_cast<uint64>(Value == 0.0 ? 0.0 : Value));
+}
+
+inline uint32 GetTypeHash(float Value)
+{
+	return GetTypeHash(static_cast<double>(Value));
 }
 
 template <typename T>

@@ -2,6 +2,9 @@
 
 #include "Containers/UnrealString.h"
 
+/** What no object's name holds. */
+#define INVALID_OBJECTNAME_CHARACTERS TEXT("\"' ,/.:|&!~\n\r\t@#(){}[]=;^%$`")
+
 /** Well-known names. */
 enum EName : uint32
 {
@@ -29,12 +32,16 @@ public:
 
 	FString ToString() const;
 	void ToString(FString& Out) const { Out = ToString(); }
+	/** Whether an object may have the name. @param OutReason why not */
+	bool IsValidObjectName(class FText& OutReason) const;
 	/** The text without the number. */
 	FString GetPlainNameString() const;
 	bool IsNone() const { return ComparisonIndex == 0 && Number == 0; }
 	bool IsValid() const { return true; }
 	/** 0 when there is none, else the number shown plus one. */
 	int32 GetNumber() const { return Number; }
+	/** Which entry of the table of names prints the name, without its number. */
+	uint32 GetDisplayIndex() const { return DisplayIndex; }
 
 	bool operator==(const FName& Other) const { return ComparisonIndex == Other.ComparisonIndex && Number == Other.Number; }
 	bool operator==(EName Other) const { return *this == FName(Other); }

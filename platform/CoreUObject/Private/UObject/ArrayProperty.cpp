@@ -1,17 +1,25 @@
+#include "UObject/ArrayProperty.h"
+
 #include "PropertyText.h"
-#include "UObject/StructProperty.h"
+
+IMPLEMENT_FIELD(FArrayProperty)
 
 FString FArrayProperty::GetCPPType() const
 {
 	return TEXT("TArray<") + Inner->GetCPPType() + TEXT(">");
 }
 
-void FArrayProperty::DestroyValue(void* Dest) const
+FString FArrayProperty::MakeTypeTag() const
+{
+	return FString::Printf(TEXT("ArrayProperty<%s>"), *Inner->GetTypeTag().ToString());
+}
+
+void FArrayProperty::DestroySingleValue(void* Dest) const
 {
 	FScriptArrayHelper(this, Dest).EmptyValues();
 }
 
-void FArrayProperty::CopyCompleteValue(void* Dest, const void* Src) const
+void FArrayProperty::CopySingleValue(void* Dest, const void* Src) const
 {
 	if (Dest == Src)
 	{
@@ -22,7 +30,7 @@ void FArrayProperty::CopyCompleteValue(void* Dest, const void* Src) const
 	To.Resize(From.Num());
 	for (int32 Index = 0; Index < From.Num(); ++Index)
 	{
-		Inner->CopyCompleteValue(To.GetRawPtr(Index), From.GetRawPtr(Index));
+		Inner->CopySingleValue(To.GetRawPtr(Index), From.GetRawPtr(Index));
 	}
 }
 
@@ -48,55 +56,92 @@ bool FArrayProperty::Identical(const void* A, const void* B, uint32 PortFlags) c
 	return true;
 }
 
-void FArrayProperty::ExportTextItem_Direct(
-	FString& ValueStr, const void* PropertyValue, const void*, UObject* Parent, uint32 PortFlags) const
+void FArrayProperty::Serialize(FArchive& Ar)
 {
-	const FScriptArrayHelper Elements(this, PropertyValue);
+	Super::Serialize(Ar);
+	SerializeField(Ar, Inner, this);
+}
+
+void FArrayProperty::SerializeItem(FArchive& Ar, void* Value, const void*) const
+{
+	FScriptArrayHelper Elements(this, Value);
+	int32 Count = Elements.Num();
+	if (!Ar.IsObjectReferenceCollector())
+	{
+		SerializeCount(Ar, Count);
+	}
+	if (Ar.IsLoading())
+	{
+		Elements.EmptyValues();
+	}
+	for (int32 Index = 0; Index < Count && !Ar.IsError(); ++Index)
+	{
+		if (Index == Elements.Num())
+		{
+			// A damaged number costs no more memory than the bytes that are there can fill.
+			Elements.Resize(FMath::Min(Count, 2 * Index + 64));
+		}
+		Inner->SerializeItem(Ar, Elements.GetRawPtr(Index));
+	}
+}
+
+void FArrayProperty::ExportText_Internal(
+	FString& ValueStr, const void* Value, const void*, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+{
+	const FScriptArrayHelper Elements(this, Value);
 	ValueStr += TEXT("(");
 	for (int32 Index = 0; Index < Elements.Num(); ++Index)
 	{
 		ValueStr += Index > 0 ? TEXT(",") : TEXT("");
-		Inner->ExportTextItem_Direct(ValueStr, Elements.GetRawPtr(Index), nullptr, Parent, PortFlags | PPF_Delimited);
+		Inner->ExportTextItem_Direct(ValueStr, Elements.GetRawPtr(Index), nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
 	}
 	ValueStr += TEXT(")");
 }
 
-const TCHAR* FArrayProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject* Owner, uint32 PortFlags) const
+const TCHAR* FArrayProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags) const
 {
-	if (*Buffer != '(')
+	FScriptArrayHelper Elements(this, Value);
+	if (*Buffer == '(')
 	{
-		return nullptr;
+		Elements.EmptyValues();
 	}
-	FScriptArrayHelper Elements(this, PropertyValue);
-	Elements.EmptyValues();
-	Buffer = PropertyText::SkipBlanks(Buffer + 1);
-	while (*Buffer != ')')
-	{
-		const int32 Index = Elements.AddValue();
-		Buffer = Inner->ImportText_Direct(Buffer, Elements.GetRawPtr(Index), Owner, PortFlags | PPF_Delimited);
-		Buffer = Buffer ? PropertyText::SkipBlanks(Buffer) : nullptr;
-		if (!Buffer || (*Buffer != ',' && *Buffer != ')'))
+	return PropertyText::ReadList(Buffer,
+		[&](const TCHAR* Item)
 		{
-			return nullptr;
-		}
-		Buffer = *Buffer == ',' ? PropertyText::SkipBlanks(Buffer + 1) : Buffer;
-	}
-	return Buffer + 1;
-}
-
-void FArrayProperty::VisitReferences(const void* Value, TFunctionRef<void(UObject*)> Visit) const
-{
-	const FScriptArrayHelper Elements(this, Value);
-	for (int32 Index = 0; Index < Elements.Num(); ++Index)
-	{
-		Inner->VisitReferences(Elements.GetRawPtr(Index), Visit);
-	}
+		const int32 Index = Elements.AddValue();
+		return Inner->ImportText_Direct(Item, Elements.GetRawPtr(Index), OwnerObject, PortFlags | PPF_Delimited, nullptr);
+	});
 }
 
 int32 FScriptArrayHelper::AddValue()
 {
 	Resize(Num() + 1);
 	return Num() - 1;
+}
+
+void FScriptArrayHelper::InsertValues(int32 Index, int32 Count)
+{
+	check(Index >= 0 && Index <= Num());
+	const int32 Old = Num();
+	Resize(Old + Count);
+	for (int32 From = Old - 1; From >= Index; --From)
+	{
+		Inner->CopySingleValue(GetRawPtr(From + Count), GetRawPtr(From));
+	}
+	for (int32 New = Index; New < FMath::Min(Index + Count, Old); ++New)
+	{
+		Inner->ClearValue(GetRawPtr(New));
+	}
+}
+
+void FScriptArrayHelper::RemoveValues(int32 Index, int32 Count)
+{
+	check(Index >= 0 && Count >= 0 && Index + Count <= Num());
+	for (int32 From = Index + Count; From < Num(); ++From)
+	{
+		Inner->CopySingleValue(GetRawPtr(From - Count), GetRawPtr(From));
+	}
+	Resize(Num() - Count);
 }
 
 void FScriptArrayHelper::EmptyValues()
@@ -125,11 +170,16 @@ void FScriptArrayHelper::Resize(int32 Count)
 
 void FScriptArrayHelper::Reallocate(int32 Count)
 {
+	if (Array->Max() == Count)
+	{
+		return;
+	}
+	const int32 Size = Inner->GetElementSize();
 	FScriptArray Larger;
-	Larger.Reallocate(Count, Inner->GetSize(), Inner->GetMinAlignment());
+	Larger.Reallocate(Count, Size, Inner->GetMinAlignment());
 	for (int32 Index = 0; Index < Num(); ++Index)
 	{
-		uint8* const Target = static_cast<uint8*>(Larger.GetData()) + Index * Inner->GetSize();
+		uint8* const Target = static_cast<uint8*>(Larger.GetData()) + Index * Size;
 		Inner->InitializeValue(Target);
 		Inner->CopyCompleteValue(Target, GetRawPtr(Index));
 		Inner->DestroyValue(GetRawPtr(Index));
@@ -137,5 +187,5 @@ void FScriptArrayHelper::Reallocate(int32 Count)
 	Larger.SetNumUnsafe(Num());
 	Swap(*Array, Larger);
 	Larger.SetNumUnsafe(0);
-	Larger.Reallocate(0, Inner->GetSize(), Inner->GetMinAlignment());
+	Larger.Reallocate(0, Size, Inner->GetMinAlignment());
 }

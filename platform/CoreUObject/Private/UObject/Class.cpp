@@ -1,6 +1,6 @@
 #include "UObject/Class.h"
 
-#include "ObjectTable.h"
+#include "ObjectConstruction.h"
 #include "UObject/GeneratedCode.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
@@ -20,94 +20,86 @@ FText UField::GetToolTipText(bool) const
 	return MetaData.GetToolTip(GetName());
 }
 
-UStruct::~UStruct()
+void UClass::Serialize(FArchive& Ar)
 {
-	while (FField* const Field = ChildProperties)
+	Super::Serialize(Ar);
+	UObject* GeneratedBy = ClassGeneratedBy;
+	Ar << ClassFlags << ClassConfigName << GeneratedBy;
+	ClassGeneratedBy = GeneratedBy;
+	int32 Count = Interfaces.Num();
+	SerializeCount(Ar, Count);
+	Interfaces.SetNum(Count);
+	for (FImplementedInterface& Each : Interfaces)
 	{
-		ChildProperties = Field->Next;
-		delete Field;
+		Ar << Each.Class << Each.bImplementedByK2;
+	}
+	if (Ar.IsObjectReferenceCollector())
+	{
+		Ar << ClassDefaultObject;
+	}
+	if (Ar.IsLoading())
+	{
+		Interfaces.RemoveAll([](const FImplementedInterface& Each) { return !Each.Class; });
+		Bind();
 	}
 }
 
-bool UStruct::IsChildOf(const UStruct* SomeBase) const
+UObject* UClass::TryFindTypeSlow(UClass* TypeClass, const FString& InPathNameOrShortName, EFindFirstObjectOptions InOptions)
 {
-	const UStruct* Struct = this;
-	while (Struct && Struct != SomeBase)
+	if (InPathNameOrShortName.IsEmpty())
 	{
-		Struct = Struct->SuperStruct;
+		return nullptr;
 	}
-	return Struct != nullptr;
+	return InPathNameOrShortName.StartsWith(TEXT("/")) ? StaticFindObject(TypeClass, nullptr, *InPathNameOrShortName)
+													   : StaticFindFirstObject(TypeClass, *InPathNameOrShortName, InOptions);
 }
 
-FProperty* UStruct::FindPropertyByName(FName InName) const
+UObject* UClass::TryFindTypeSlowSafe(UClass* TypeClass, const FString& InPathNameOrShortName, EFindFirstObjectOptions InOptions)
 {
-	for (TFieldIterator<FProperty> Property(this); Property; ++Property)
+	return IsGarbageCollecting() ? nullptr : TryFindTypeSlow(TypeClass, InPathNameOrShortName, InOptions);
+}
+
+bool UClass::ImplementsInterface(const UClass* SomeInterface) const
+{
+	for (const UClass* Class = this; Class && SomeInterface; Class = Class->GetSuperClass())
 	{
-		if (Property->GetFName() == InName)
+		if (Class->Interfaces.ContainsByPredicate(
+				[=](const FImplementedInterface& Each) { return Each.Class->IsChildOf(SomeInterface); }))
 		{
-			return *Property;
+			return true;
 		}
 	}
-	return nullptr;
+	return false;
 }
 
-void UStruct::AddProperty(FProperty* Property)
+void UClass::Bind()
 {
-	FField** End = &ChildProperties;
-	while (*End)
+	const UClass* const SuperClass = GetSuperClass();
+	ClassConstructor = SuperClass->ClassConstructor;
+	ClassFlags |= SuperClass->ClassFlags & CLASS_Inherit;
+	ClassConfigName = ClassConfigName.IsNone() ? SuperClass->ClassConfigName : ClassConfigName;
+}
+
+void UClass::ConstructAddedProperties(UObject* Object) const
+{
+	for (const UClass* Class = this; !Class->HasAnyClassFlags(CLASS_Native); Class = Class->GetSuperClass())
 	{
-		End = &(*End)->Next;
-	}
-	*End = Property;
-}
-
-void UStruct::AddFunction(UFunction* Function)
-{
-	UField** End = &Children;
-	while (*End)
-	{
-		End = &(*End)->Next;
-	}
-	*End = Function;
-}
-
-void UScriptStruct::InitializeStruct(void* Dest) const
-{
-	Ops->Construct(Dest);
-}
-
-void UScriptStruct::DestroyStruct(void* Dest) const
-{
-	Ops->Destroy(Dest);
-}
-
-void UScriptStruct::CopyScriptStruct(void* Dest, const void* Src) const
-{
-	Ops->Copy(Dest, Src);
-}
-
-bool UScriptStruct::CompareScriptStruct(const void* A, const void* B, uint32 PortFlags) const
-{
-	for (TFieldIterator<FProperty> Property(this); Property; ++Property)
-	{
-		if (!Property->Identical_InContainer(A, B, PortFlags))
+		for (TFieldIterator<FProperty> Property(Class, EFieldIterationFlags::None); Property; ++Property)
 		{
-			return false;
+			Property->InitializeValue_InContainer(Object);
 		}
 	}
-	return true;
 }
 
-FProperty* UFunction::GetReturnProperty() const
+void UClass::DestroyAddedProperties(UObject* Object) const
 {
-	for (TFieldIterator<FProperty> Property(this, EFieldIterationFlags::None); Property; ++Property)
+	for (const UClass* Class = this; !Class->HasAnyClassFlags(CLASS_Native); Class = Class->GetSuperClass())
 	{
-		if (Property->HasAnyPropertyFlags(CPF_ReturnParm))
+		for (TFieldIterator<FProperty> Property(Class, EFieldIterationFlags::None); Property; ++Property)
 		{
-			return *Property;
+			Property->DestroyValue_InContainer(Object);
 		}
 	}
-	return nullptr;
 }
 
 FName UClass::GetDefaultObjectName() const
@@ -121,17 +113,7 @@ UObject* UClass::GetDefaultObject(bool bCreateIfNeeded) const
 	{
 		return ClassDefaultObject;
 	}
-	if (GetSuperClass())
-	{
-		GetSuperClass()->GetDefaultObject();
-	}
-	constexpr EObjectFlags Flags = RF_Public | RF_ClassDefaultObject;
-	ClassDefaultObject = AllocateObject(const_cast<UClass*>(this), GetOuter(), GetDefaultObjectName(), Flags);
-	if (HasAnyClassFlags(CLASS_Config))
-	{
-		ClassDefaultObject->LoadConfig();
-	}
-	ClassDefaultObject->PostInitProperties();
+	ConstructDefaultObject(const_cast<UClass*>(this), ClassDefaultObject);
 	return ClassDefaultObject;
 }
 

@@ -1,3 +1,4 @@
+#include "Serialization/Archive.h"
 #include "UObject/Class.h"
 
 int32 UEnum::GetIndexByValue(int64 Value) const
@@ -50,4 +51,28 @@ void UEnum::AddEnumerator(FName FullName, int64 Value, const FFieldMetaData& InM
 {
 	Names.Add({ FullName, Value });
 	EnumeratorMetaData.Add(InMetaData);
+}
+
+void UEnum::RemoveAllEnumerators()
+{
+	Names.Empty();
+	EnumeratorMetaData.Empty();
+}
+
+void UEnum::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	if (Ar.IsObjectReferenceCollector())
+	{
+		return;
+	}
+	int32 Count = NumEnums();
+	Ar << CppType;
+	SerializeCount(Ar, Count);
+	Names.SetNum(Count);
+	EnumeratorMetaData.SetNum(Count);
+	for (int32 Index = 0; Index < Count; ++Index)
+	{
+		Ar << Names[Index].Key << Names[Index].Value << EnumeratorMetaData[Index];
+	}
 }

@@ -1,108 +1,63 @@
 #include "UObject/EnumProperty.h"
 
-#include "PropertyText.h"
+#include "EnumValue.h"
 
-namespace
+IMPLEMENT_FIELD(FEnumProperty)
+
+void FEnumProperty::AddCppProperty(FProperty* Property)
 {
-/** The enumerator's name, or the number for a value that the enum has not. */
-FString ExportEnum(const UEnum* Enum, int64 Value)
-{
-	const FString Name = Enum->GetNameStringByValue(Value);
-	return Name.IsEmpty() ? LexToString(Value) : Name;
+	check(!UnderlyingProp);
+	UnderlyingProp = CastFieldChecked<FNumericProperty>(Property);
+	Link();
 }
 
-/** A number of that many bytes, sign or none. */
-bool FitsInto(int64 Value, int32 Size)
+void FEnumProperty::Link()
 {
-	if (Size == 8)
+	SetLayout(UnderlyingProp->GetElementSize(), UnderlyingProp->GetMinAlignment());
+}
+
+FString FEnumProperty::MakeTypeTag() const
+{
+	return FString::Printf(TEXT("EnumProperty<%s>"), *Enum->GetName());
+}
+
+void FEnumProperty::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	SerializeObjectReference(Ar, Enum);
+	FProperty* Underlying = UnderlyingProp;
+	SerializeField(Ar, Underlying, this);
+	UnderlyingProp = CastField<FNumericProperty>(Underlying);
+	if (!UnderlyingProp || !UnderlyingProp->IsInteger())
 	{
-		return true;
+		delete Underlying;
+		UnderlyingProp = nullptr;
+		Ar.SetError();
+		return;
 	}
-	const int64 Limit = int64(1) << (8 * Size);
-	return Value >= -Limit / 2 && Value < Limit;
+	Link();
 }
 
-const TCHAR* ImportEnum(const UEnum* Enum, int32 Size, const TCHAR* Buffer, int64& OutValue)
+void FEnumProperty::SerializeItem(FArchive& Ar, void* Value, const void*) const
 {
-	FString Word;
-	const TCHAR* const End = PropertyText::ReadWord(Buffer, Word);
-	const int32 Index = Enum->GetIndexByNameString(Word);
-	if (Index != INDEX_NONE)
-	{
-		OutValue = Enum->GetValueByIndex(Index);
-		return End;
-	}
-	return PropertyText::ParseInteger(Word, OutValue) && FitsInto(OutValue, Size) ? End : nullptr;
-}
+	int64 Number = UnderlyingProp->GetSignedIntPropertyValue(Value);
+	EnumValue::Serialize(Ar, Enum, Number);
+	UnderlyingProp->SetIntPropertyValue(Value, Number);
 }
 
-FString FByteProperty::GetCPPType() const
+void FEnumProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32, UObject*) const
 {
-	return Enum ? FString::Printf(TEXT("TEnumAsByte<%s>"), *Enum->CppType) : FString(TEXT("uint8"));
+	ValueStr += EnumValue::Export(Enum, UnderlyingProp->GetSignedIntPropertyValue(Value));
 }
 
-void FByteProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32) const
+const TCHAR* FEnumProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject*, int32) const
 {
-	const int32 Value = GetPropertyValue(PropertyValue);
-	ValueStr += Enum ? ExportEnum(Enum, Value) : LexToString(Value);
-}
-
-const TCHAR* FByteProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32) const
-{
-	int64 Value = 0;
-	const TCHAR* End = nullptr;
-	if (Enum)
-	{
-		End = ImportEnum(Enum, 1, Buffer, Value);
-	}
-	else
-	{
-		FString Word;
-		End = PropertyText::ReadWord(Buffer, Word);
-		End = PropertyText::ParseInteger(Word, Value) ? End : nullptr;
-	}
-	if (!End || Value < 0 || Value > 0xFF)
+	int64 Number = 0;
+	const TCHAR* const End = EnumValue::Import(Enum, Buffer, Number);
+	if (!End || !UnderlyingProp->CanHoldValue(Number))
 	{
 		return nullptr;
 	}
-	SetPropertyValue(PropertyValue, static_cast<uint8>(Value));
-	return End;
-}
-
-int64 FEnumProperty::GetValue(const void* Value) const
-{
-	switch (GetSize())
-	{
-	case 1: return *static_cast<const uint8*>(Value);
-	case 2: return *static_cast<const int16*>(Value);
-	case 4: return *static_cast<const int32*>(Value);
-	default: return *static_cast<const int64*>(Value);
-	}
-}
-
-void FEnumProperty::SetValue(void* Value, int64 NewValue) const
-{
-	switch (GetSize())
-	{
-	case 1: *static_cast<uint8*>(Value) = static_cast<uint8>(NewValue); break;
-	case 2: *static_cast<int16*>(Value) = static_cast<int16>(NewValue); break;
-	case 4: *static_cast<int32*>(Value) = static_cast<int32>(NewValue); break;
-	default: *static_cast<int64*>(Value) = NewValue;
-	}
-}
-
-void FEnumProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32) const
-{
-	ValueStr += ExportEnum(Enum, GetValue(PropertyValue));
-}
-
-const TCHAR* FEnumProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32) const
-{
-	int64 Value = 0;
-	const TCHAR* const End = ImportEnum(Enum, GetSize(), Buffer, Value);
-	if (End)
-	{
-		SetValue(PropertyValue, Value);
-	}
+	UnderlyingProp->SetIntPropertyValue(Value, Number);
 	return End;
 }

@@ -47,12 +47,60 @@ FText FFieldMetaData::GetToolTip(const FString& Name, bool bIsBool) const
 	return Given.IsEmpty() ? GetDisplayName(Name, bIsBool) : FText::FromString(Given);
 }
 
+UObject* FFieldVariant::ToUObject() const
+{
+	return Struct;
+}
+
+UStruct* FFieldVariant::GetOwnerStruct() const
+{
+	return Field ? Field->GetOwnerStruct() : Struct;
+}
+
+bool FFieldClass::IsChildOf(const FFieldClass* Other) const
+{
+	const FFieldClass* Class = this;
+	while (Class && Class != Other)
+	{
+		Class = Class->SuperClass;
+	}
+	return Class != nullptr;
+}
+
+FField* FFieldClass::Construct(FFieldVariant Owner, const FName& FieldName, EObjectFlags Flags) const
+{
+	return Constructor ? Constructor(Owner, FieldName, Flags) : nullptr;
+}
+
+FFieldClass* FField::StaticClass()
+{
+	static FFieldClass Class(TEXT("Field"), nullptr, nullptr);
+	return &Class;
+}
+
+FString FField::GetPathName() const
+{
+	const FField* const Field = Owner.ToField();
+	const UObject* const Object = Owner.ToUObject();
+	const FString Path = Field ? Field->GetPathName() + TEXT(".") : Object ? Object->GetPathName() + TEXT(":") : FString();
+	return Path + GetName();
+}
+
 UClass* FField::GetOwnerClass() const
 {
-	return OwnerStruct && OwnerStruct->IsA(UClass::StaticClass()) ? static_cast<UClass*>(OwnerStruct) : nullptr;
+	const UStruct* const Struct = GetOwnerStruct();
+	return Struct ? Struct->GetOwnerClass() : nullptr;
 }
 
 FText FField::GetToolTipText(bool) const
 {
 	return MetaData.GetToolTip(GetName(), IsBool());
+}
+
+void FField::Serialize(FArchive& Ar)
+{
+	if (!Ar.IsObjectReferenceCollector())
+	{
+		Ar << MetaData;
+	}
 }

@@ -1,7 +1,7 @@
 #include "UObject/GeneratedCode.h"
 
 #include "Modules/ModuleManager.h"
-#include "ObjectTable.h"
+#include "ObjectConstruction.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
@@ -39,7 +39,7 @@ void SetMetaData(FieldType& Field, const TTable<FMetaDataPair>& MetaData)
 }
 
 /** Lets the generated code set its bit in zeroed memory, and looks which one it was. */
-FBoolProperty* MakeBitField(UStruct* Owner, const FPropertyInfo& Info)
+void LayOutBitField(FBoolProperty& Property, const FPropertyInfo& Info)
 {
 	const auto Deleter = [](uint8* Memory) { ::operator delete(Memory, std::align_val_t(alignof(std::max_align_t))); };
 	const std::unique_ptr<uint8, decltype(Deleter)> Memory(
@@ -47,45 +47,152 @@ FBoolProperty* MakeBitField(UStruct* Owner, const FPropertyInfo& Info)
 	std::memset(Memory.get(), 0, Info.OwnerSize);
 	Info.SetBit(Memory.get());
 	const uint8* const Byte = std::find_if(Memory.get(), Memory.get() + Info.OwnerSize, [](uint8 Each) { return Each != 0; });
-	FBoolProperty* const Property = new FBoolProperty(Owner, Info.Name, *Byte);
-	Property->Offset_Internal = static_cast<int32>(Byte - Memory.get());
+	Property.SetBitField(*Byte);
+	Property.Offset_Internal = static_cast<int32>(Byte - Memory.get());
+}
+
+FProperty* MakeProperty(FFieldVariant Owner, const FPropertyInfo& Info);
+
+FProperty* MakeEnum(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	FEnumProperty* const Property = new FEnumProperty(Owner, Info.Name);
+	Property->SetEnum(Info.Enum());
+	const FName Name("UnderlyingType");
+	const auto Make = [&]() -> FProperty*
+	{
+		switch (Info.Size)
+		{
+		case -1: return new FInt8Property(Property, Name);
+		case -2: return new FInt16Property(Property, Name);
+		case -4: return new FIntProperty(Property, Name);
+		case -8: return new FInt64Property(Property, Name);
+		case 1: return new FByteProperty(Property, Name);
+		case 2: return new FUInt16Property(Property, Name);
+		case 4: return new FUInt32Property(Property, Name);
+		case 8: return new FUInt64Property(Property, Name);
+		}
+		checkNoEntry();
+	};
+	Property->AddCppProperty(Make());
 	return Property;
 }
 
-FProperty* MakeProperty(UStruct* Owner, const FPropertyInfo& Info);
+template <typename T>
+T* MakeObject(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	T* const Property = new T(Owner, Info.Name);
+	Property->PropertyClass = Info.Class();
+	return Property;
+}
 
-FProperty* MakeKind(UStruct* Owner, const FPropertyInfo& Info)
+template <typename T>
+T* MakeClass(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	T* const Property = new T(Owner, Info.Name);
+	Property->MetaClass = Info.Class();
+	return Property;
+}
+
+FProperty* MakeInterface(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	FInterfaceProperty* const Property = new FInterfaceProperty(Owner, Info.Name);
+	Property->InterfaceClass = Info.Class();
+	return Property;
+}
+
+FProperty* MakeStruct(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	FStructProperty* const Property = new FStructProperty(Owner, Info.Name);
+	Property->Struct = Info.Struct();
+	return Property;
+}
+
+FProperty* MakeByte(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	FByteProperty* const Property = new FByteProperty(Owner, Info.Name);
+	Property->Enum = Info.Enum ? Info.Enum() : nullptr;
+	return Property;
+}
+
+FProperty* MakeArray(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	FArrayProperty* const Property = new FArrayProperty(Owner, Info.Name);
+	Property->Inner = MakeProperty(Property, *Info.Inner);
+	return Property;
+}
+
+FProperty* MakeSet(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	FSetProperty* const Property = new FSetProperty(Owner, Info.Name);
+	Property->ElementProp = MakeProperty(Property, *Info.Inner);
+	return Property;
+}
+
+FProperty* MakeMap(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	FMapProperty* const Property = new FMapProperty(Owner, Info.Name);
+	Property->KeyProp = MakeProperty(Property, *Info.Inner);
+	Property->ValueProp = MakeProperty(Property, *Info.Value);
+	return Property;
+}
+
+template <typename T>
+FProperty* MakeDelegate(FFieldVariant Owner, const FPropertyInfo& Info)
+{
+	T* const Property = new T(Owner, Info.Name);
+	Property->SignatureFunction = Info.Signature();
+	return Property;
+}
+
+FProperty* MakeKind(FFieldVariant Owner, const FPropertyInfo& Info)
 {
 	const FName Name = Info.Name;
 	switch (Info.Kind)
 	{
-	case EPropertyKind::Bool: return Info.SetBit ? MakeBitField(Owner, Info) : new FBoolProperty(Owner, Name);
-	case EPropertyKind::Byte: return new FByteProperty(Owner, Name, Info.Enum ? Info.Enum() : nullptr);
+	case EPropertyKind::Bool: return new FBoolProperty(Owner, Name);
+	case EPropertyKind::Int8: return new FInt8Property(Owner, Name);
+	case EPropertyKind::Int16: return new FInt16Property(Owner, Name);
 	case EPropertyKind::Int: return new FIntProperty(Owner, Name);
 	case EPropertyKind::Int64: return new FInt64Property(Owner, Name);
+	case EPropertyKind::Byte: return MakeByte(Owner, Info);
+	case EPropertyKind::UInt16: return new FUInt16Property(Owner, Name);
+	case EPropertyKind::UInt32: return new FUInt32Property(Owner, Name);
+	case EPropertyKind::UInt64: return new FUInt64Property(Owner, Name);
 	case EPropertyKind::Float: return new FFloatProperty(Owner, Name);
 	case EPropertyKind::Double: return new FDoubleProperty(Owner, Name);
 	case EPropertyKind::Str: return new FStrProperty(Owner, Name);
 	case EPropertyKind::Name: return new FNameProperty(Owner, Name);
 	case EPropertyKind::Text: return new FTextProperty(Owner, Name);
-	case EPropertyKind::Enum: return new FEnumProperty(Owner, Name, Info.Enum(), static_cast<int32>(Info.Size));
-	case EPropertyKind::Object: return new FObjectProperty(Owner, Name, Info.Class());
-	case EPropertyKind::Class: return new FClassProperty(Owner, Name, Info.Class());
-	case EPropertyKind::Struct: return new FStructProperty(Owner, Name, Info.Struct());
-	case EPropertyKind::Array: return new FArrayProperty(Owner, Name, MakeProperty(Owner, *Info.Inner));
+	case EPropertyKind::Enum: return MakeEnum(Owner, Info);
+	case EPropertyKind::Object: return MakeObject<FObjectProperty>(Owner, Info);
+	case EPropertyKind::Class: return MakeClass<FClassProperty>(Owner, Info);
+	case EPropertyKind::WeakObject: return MakeObject<FWeakObjectProperty>(Owner, Info);
+	case EPropertyKind::SoftObject: return MakeObject<FSoftObjectProperty>(Owner, Info);
+	case EPropertyKind::SoftClass: return MakeClass<FSoftClassProperty>(Owner, Info);
+	case EPropertyKind::Interface: return MakeInterface(Owner, Info);
+	case EPropertyKind::Struct: return MakeStruct(Owner, Info);
+	case EPropertyKind::Array: return MakeArray(Owner, Info);
+	case EPropertyKind::Set: return MakeSet(Owner, Info);
+	case EPropertyKind::Map: return MakeMap(Owner, Info);
+	case EPropertyKind::Delegate: return MakeDelegate<FDelegateProperty>(Owner, Info);
+	case EPropertyKind::MulticastDelegate: return MakeDelegate<FMulticastInlineDelegateProperty>(Owner, Info);
 	}
 	checkNoEntry();
 }
 
-FProperty* MakeProperty(UStruct* Owner, const FPropertyInfo& Info)
+FProperty* MakeProperty(FFieldVariant Owner, const FPropertyInfo& Info)
 {
 	FProperty* const Property = MakeKind(Owner, Info);
 	Property->SetPropertyFlags(static_cast<EPropertyFlags>(Info.Flags));
-	if (!Info.SetBit)
+	Property->ArrayDim = Info.ArrayDim;
+	Property->Offset_Internal = static_cast<int32>(Info.Offset);
+	if (Info.SetBit)
 	{
-		Property->Offset_Internal = static_cast<int32>(Info.Offset);
+		LayOutBitField(*CastFieldChecked<FBoolProperty>(Property), Info);
 	}
+	Property->Link();
 	SetMetaData(*Property, Info.MetaData);
+	Property->RepNotifyFunc = FName(Property->GetMetaData(TEXT("ReplicatedUsing")));
 	return Property;
 }
 
@@ -93,22 +200,34 @@ void AddProperties(UStruct* Owner, const TTable<FPropertyInfo>& Properties)
 {
 	for (const FPropertyInfo& Info : Properties)
 	{
-		Owner->AddProperty(MakeProperty(Owner, Info));
+		Owner->AddCppProperty(MakeProperty(Owner, Info));
 	}
 }
 
-void AddFunctions(UClass* Owner, const TTable<FFunctionInfo>& Functions)
+/** Made is set before the parameters are made, whose types may refer back. */
+void MakeFunction(UFunction*& Made, UObject* Outer, const FFunctionInfo& Info)
 {
-	for (const FFunctionInfo& Info : Functions)
+	UFunction* const Function = MakeType<UFunction>(Outer, Info.Name);
+	Made = Function;
+	Function->FunctionFlags = Info.Flags;
+	Function->Native = Info.Native;
+	Function->PropertiesSize = static_cast<int32>(Info.ParmsSize);
+	Function->MinAlignment = alignof(std::max_align_t);
+	SetMetaData(*Function, Info.MetaData);
+	AddProperties(Function, Info.Parameters);
+}
+
+void AddInterfaces(UClass* Owner, const TTable<FInterfaceInfo>& Interfaces)
+{
+	for (const FInterfaceInfo& Info : Interfaces)
 	{
-		UFunction* const Function = MakeType<UFunction>(Owner, Info.Name);
-		Function->FunctionFlags = Info.Flags;
-		Function->Native = Info.Native;
-		Function->PropertiesSize = static_cast<int32>(Info.ParmsSize);
-		Function->MinAlignment = alignof(std::max_align_t);
-		SetMetaData(*Function, Info.MetaData);
-		AddProperties(Function, Info.Parameters);
-		Owner->AddFunction(Function);
+		if (Info.Class)
+		{
+			FImplementedInterface Interface;
+			Interface.Class = Info.Class();
+			Interface.PointerOffset = Info.Offset();
+			Owner->Interfaces.Add(Interface);
+		}
 	}
 }
 
@@ -142,7 +261,13 @@ UClass* Construct(UClass*& Made, const FClassInfo& Info)
 	Made->ClassConfigName = Info.Config ? FName(Info.Config) : Super->ClassConfigName;
 	Made->ClassConstructor = Info.Constructor;
 	AddProperties(Made, Info.Type.Properties);
-	AddFunctions(Made, Info.Functions);
+	for (const FFunctionInfo& Function : Info.Functions)
+	{
+		UFunction* Own = nullptr;
+		MakeFunction(Own, Made, Function);
+		Made->AddFunction(Own);
+	}
+	AddInterfaces(Made, Info.Interfaces);
 	return Made;
 }
 
@@ -189,6 +314,21 @@ UEnum* Construct(UEnum*& Made, const FEnumInfo& Info)
 	return Made;
 }
 
+UFunction* Construct(UFunction*& Made, const FSignatureInfo& Info)
+{
+	if (!Made)
+	{
+		UObject* const Home = Info.Class ? Info.Class() : static_cast<UObject*>(CreatePackage(*FString(Info.Package)));
+		Home->SetFlags(TypeFlags);
+		// The class's own delegate properties ask for it while the class is made.
+		if (!Made)
+		{
+			MakeFunction(Made, Home, Info.Function);
+		}
+	}
+	return Made;
+}
+
 namespace
 {
 /** A module's types are made before the module starts. */
@@ -220,6 +360,10 @@ void ProcessNewlyLoadedUObjects()
 		for (UScriptStruct* (*const Struct)() : Types->Structs)
 		{
 			Struct();
+		}
+		for (UFunction* (*const Signature)() : Types->Signatures)
+		{
+			Signature();
 		}
 		for (UClass* (*const Class)() : Types->Classes)
 		{

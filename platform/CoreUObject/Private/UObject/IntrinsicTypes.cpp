@@ -40,9 +40,9 @@ private:
 		Class = MakeClass<UClass>(Home, TEXT("Class"), Struct);
 		for (UClass* const Each : { Object, Package, Field, Struct, ScriptStruct, Function, Enum, Class })
 		{
-			Each->ClassPrivate = Class;
+			FObjectTable::Get().SetClass(Each, Class);
 		}
-		Home->ClassPrivate = Package;
+		FObjectTable::Get().SetClass(Home, Package);
 	}
 
 	template <typename T>

@@ -1,10 +1,9 @@
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
 #include "PropertyText.h"
+#include "ScratchValue.h"
 #include "UObject/Object.h"
 #include "UObject/UnrealType.h"
-
-#include <memory>
 
 namespace
 {
@@ -31,32 +30,12 @@ TArray<FString> GetConfigFilenames(const UClass* Class)
 	return Filenames;
 }
 
-/** A value that is read apart, so that a text which is none leaves the property's as it was. */
-class FScratchValue
+/** Whether all of Text is a value of the property; Value may be half read otherwise. */
+bool ImportWhole(const FProperty* Property, const FString& Text, void* Value, UObject* Owner)
 {
-public:
-	explicit FScratchValue(const FProperty* InProperty)
-		: Property(InProperty)
-		, Memory(std::make_unique<uint8[]>(static_cast<SIZE_T>(InProperty->GetSize())))
-	{
-		Property->InitializeValue(Get());
-	}
-	~FScratchValue() { Property->DestroyValue(Get()); }
-	UE_NONCOPYABLE(FScratchValue)
-
-	void* Get() const { return Memory.get(); }
-
-	/** Whether all of Text is a value of the property. */
-	bool Import(const FString& Text, UObject* Owner) const
-	{
-		const TCHAR* const End = Property->ImportText_Direct(*Text, Get(), Owner, PPF_None);
-		return End && *PropertyText::SkipBlanks(End) == '\0';
-	}
-
-private:
-	const FProperty* Property;
-	std::unique_ptr<uint8[]> Memory;
-};
+	const TCHAR* const End = Property->ImportText_Direct(*Text, Value, Owner, PPF_None, nullptr);
+	return End && *PropertyText::SkipBlanks(End) == '\0';
+}
 
 /** Reads the properties of one object from one section of a file. */
 class FSectionReader
@@ -100,8 +79,8 @@ private:
 		Elements.EmptyValues();
 		for (const FString& Value : Values)
 		{
-			const FScratchValue Scratch(Array->Inner.get());
-			if (Accept(Scratch, Array, Value))
+			const FScratchValue Scratch(Array->Inner);
+			if (Accept(Scratch, Array->Inner, Value))
 			{
 				const int32 Index = Elements.AddValue();
 				Array->Inner->CopyCompleteValue(Elements.GetRawPtr(Index), Scratch.Get());
@@ -111,7 +90,7 @@ private:
 
 	bool Accept(const FScratchValue& Scratch, const FProperty* Property, const FString& Value) const
 	{
-		const bool bGood = Scratch.Import(Value, Object);
+		const bool bGood = ImportWhole(Property, Value, Scratch.Get(), Object);
 		if (!bGood)
 		{
 			UE_LOG(LogConfig, Warning, TEXT("%s: [%s] %s: '%s' is no %s and is passed over"), *Filename, *Section, *Property->GetName(),
@@ -152,7 +131,7 @@ void SetValue(FConfigFile& File, const FString& Section, const FProperty* Proper
 	TArray<FString> Values;
 	for (int32 Index = 0; Index < Elements.Num(); ++Index)
 	{
-		Values.Add(ExportValue(Array->Inner.get(), Elements.GetRawPtr(Index), Object));
+		Values.Add(ExportValue(Array->Inner, Elements.GetRawPtr(Index), Object));
 	}
 	File.SetArray(*Section, *Property->GetName(), Values);
 }

@@ -1,74 +1,184 @@
 #include "UObject/ObjectProperty.h"
 
+#include "ObjectText.h"
 #include "PropertyText.h"
-#include "UObject/UObjectGlobals.h"
+#include "Templates/Casts.h"
+#include "UObject/Interface.h"
+
+IMPLEMENT_ABSTRACT_FIELD(FObjectPropertyBase)
+IMPLEMENT_FIELD(FObjectProperty)
+IMPLEMENT_FIELD(FClassProperty)
+IMPLEMENT_FIELD(FWeakObjectProperty)
+IMPLEMENT_FIELD(FSoftObjectProperty)
+IMPLEMENT_FIELD(FSoftClassProperty)
+IMPLEMENT_FIELD(FInterfaceProperty)
 
 namespace
 {
-/** Class'Path' or Path: the path. */
-FString GetReferencedPath(const FString& Text)
+/** A class that a definition refers to: one that is gone becomes the base of all that could stand there. */
+void SerializeClass(FArchive& Ar, UClass*& Class, UClass* Base)
 {
-	int32 Open = INDEX_NONE;
-	if (!Text.FindChar('\'', Open) || !Text.EndsWith(TEXT("'")) || Open == Text.Len() - 1)
-	{
-		return Text;
-	}
-	FString Path = Text.Mid(Open + 1, Text.Len() - Open - 2);
-	Path.ReplaceInline(TEXT("\""), TEXT(""));
-	return Path;
+	SerializeObjectReference(Ar, Class);
+	Class = Class ? Class : Base;
+}
+
+/** Passes an object through the archive. @return whether the reference was read or replaced */
+bool SerializeObject(FArchive& Ar, UObject*& Object)
+{
+	const UObject* const Old = Object;
+	Ar << Object;
+	return Ar.IsLoading() || Object != Old;
+}
+
+/** Collectors that do not ask for weak references are not shown any. */
+bool SkipsWeakReferences(const FArchive& Ar)
+{
+	return Ar.IsObjectReferenceCollector() && !Ar.IsModifyingWeakAndStrongReferences();
 }
 }
 
-FString FObjectProperty::GetCPPType() const
+FString FObjectPropertyBase::MakeCPPType(const TCHAR* Template, const UClass* Class) const
 {
-	return FString::Printf(TEXT("TObjectPtr<%s%s>"), PropertyClass->GetPrefixCPP(), *PropertyClass->GetName());
+	return FString::Printf(TEXT("%s<%s%s>"), Template, Class->GetPrefixCPP(), *Class->GetName());
 }
 
-void FObjectProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32 PortFlags) const
+void FObjectPropertyBase::Serialize(FArchive& Ar)
 {
-	const UObject* const Object = GetObjectPropertyValue(PropertyValue);
-	if (!Object)
-	{
-		ValueStr += TEXT("None");
-		return;
-	}
-	const TCHAR* const Quote = PortFlags & PPF_Delimited ? TEXT("\"") : TEXT("");
-	ValueStr += Quote + Object->GetClass()->GetPathName() + TEXT("'") + Object->GetPathName() + TEXT("'") + Quote;
+	Super::Serialize(Ar);
+	SerializeClass(Ar, PropertyClass, UObject::StaticClass());
 }
 
-const TCHAR* FObjectProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32 PortFlags) const
+bool FObjectPropertyBase::Accepts(const UObject* Object) const
 {
-	FString Text;
-	const TCHAR* const End = PropertyText::ReadDelimited(Buffer, Text);
-	if (!End)
+	return Object->IsA(PropertyClass);
+}
+
+void FObjectPropertyBase::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32 PortFlags, UObject*) const
+{
+	ObjectText::Export(ValueStr, GetObjectPropertyValue(Value), PortFlags);
+}
+
+const TCHAR* FObjectPropertyBase::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject*, int32) const
+{
+	UObject* Object = nullptr;
+	const TCHAR* const End = ObjectText::Import(Buffer, Object);
+	if (!End || (Object && !Accepts(Object)))
 	{
 		return nullptr;
 	}
-	UObject* Object = nullptr;
-	if (Text != TEXT("None") && !Text.IsEmpty())
-	{
-		Object = StaticFindObject(UObject::StaticClass(), nullptr, *GetReferencedPath(Text));
-		if (!Object || !Accepts(Object))
-		{
-			return nullptr;
-		}
-	}
-	SetObjectPropertyValue(PropertyValue, Object);
+	SetObjectPropertyValue(Value, Object);
 	return End;
 }
 
-void FObjectProperty::VisitReferences(const void* Value, TFunctionRef<void(UObject*)> Visit) const
+void FObjectProperty::SerializeItem(FArchive& Ar, void* Value, const void*) const
 {
-	Visit(GetObjectPropertyValue(Value));
+	UObject* Object = GetPropertyValue(Value);
+	if (SerializeObject(Ar, Object))
+	{
+		// What comes from a file may be of any class.
+		SetPropertyValue(Value, Object && !Accepts(Object) ? nullptr : Object);
+	}
 }
 
-FString FClassProperty::GetCPPType() const
+FClassProperty::FClassProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InFlags)
+	: FObjectProperty(InOwner, InName, InFlags)
 {
-	return FString::Printf(TEXT("TSubclassOf<%s%s>"), MetaClass->GetPrefixCPP(), *MetaClass->GetName());
+	PropertyClass = UClass::StaticClass();
+}
+
+void FClassProperty::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	SerializeClass(Ar, MetaClass, UObject::StaticClass());
 }
 
 bool FClassProperty::Accepts(const UObject* Object) const
 {
 	const UClass* const Class = Cast<UClass>(Object);
-	return Class && Class->IsChildOf(MetaClass);
+	return Class && (!MetaClass || Class->IsChildOf(MetaClass));
+}
+
+void FWeakObjectProperty::SerializeItem(FArchive& Ar, void* Value, const void*) const
+{
+	UObject* Object = GetObjectPropertyValue(Value);
+	if (!SkipsWeakReferences(Ar) && SerializeObject(Ar, Object))
+	{
+		SetObjectPropertyValue(Value, Object && !Accepts(Object) ? nullptr : Object);
+	}
+}
+
+void FSoftObjectProperty::SerializeItem(FArchive& Ar, void* Value, const void*) const
+{
+	if (Ar.IsObjectReferenceCollector())
+	{
+		return;
+	}
+	FSoftObjectPath Path = GetPropertyValue(Value).ToSoftObjectPath();
+	Ar << Path;
+	if (Ar.IsLoading())
+	{
+		SetPropertyValue(Value, FSoftObjectPtr(Path));
+	}
+}
+
+void FSoftObjectProperty::ExportText_Internal(
+	FString& ValueStr, const void* Value, const void*, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+{
+	const FSoftObjectPath& Path = GetPropertyValue(Value).ToSoftObjectPath();
+	Path.ExportTextItem(ValueStr, Path, Parent, PortFlags, ExportRootScope);
+}
+
+const TCHAR* FSoftObjectProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags) const
+{
+	FSoftObjectPath Path;
+	if (!Path.ImportTextItem(Buffer, PortFlags, OwnerObject, nullptr))
+	{
+		return nullptr;
+	}
+	SetPropertyValue(Value, FSoftObjectPtr(Path));
+	return Buffer;
+}
+
+FSoftClassProperty::FSoftClassProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InFlags)
+	: FSoftObjectProperty(InOwner, InName, InFlags)
+{
+	PropertyClass = UClass::StaticClass();
+}
+
+void FSoftClassProperty::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	SerializeClass(Ar, MetaClass, UObject::StaticClass());
+}
+
+FString FInterfaceProperty::GetCPPType() const
+{
+	return FString::Printf(TEXT("TScriptInterface<I%s>"), *InterfaceClass->GetName());
+}
+
+void FInterfaceProperty::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	SerializeClass(Ar, InterfaceClass, UInterface::StaticClass());
+}
+
+void FInterfaceProperty::SerializeItem(FArchive& Ar, void* Value, const void*) const
+{
+	UObject* Object = GetPropertyValue(Value).GetObject();
+	if (SerializeObject(Ar, Object))
+	{
+		static_cast<FScriptInterface*>(Value)->Set(Object, InterfaceClass);
+	}
+}
+
+void FInterfaceProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32 PortFlags, UObject*) const
+{
+	ObjectText::Export(ValueStr, GetPropertyValue(Value).GetObject(), PortFlags);
+}
+
+const TCHAR* FInterfaceProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject*, int32) const
+{
+	UObject* Object = nullptr;
+	const TCHAR* const End = ObjectText::Import(Buffer, Object);
+	return End && static_cast<FScriptInterface*>(Value)->Set(Object, InterfaceClass) ? End : nullptr;
 }

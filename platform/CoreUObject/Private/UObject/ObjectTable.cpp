@@ -18,15 +18,51 @@ void FObjectTable::Add(UObject* Object)
 	Item.Object = Object;
 	Item.SerialNumber++;
 	ByName.Add({ Object->OuterPrivate, Object->NamePrivate }, Object);
+	Link(Object->OuterPrivate, Object, &FItem::Inner);
+	Link(Object->ClassPrivate, Object, &FItem::Instances);
 }
 
 void FObjectTable::Remove(UObject* Object)
 {
-	FItem& Item = GetItem(Object);
-	Item.Object = nullptr;
-	Item.bRooted = false;
-	FreeIndices.Add(Object->InternalIndex);
+	Unlink(Object->OuterPrivate, Object, &FItem::Inner);
+	Unlink(Object->ClassPrivate, Object, &FItem::Instances);
+	Dissolve(Object, &FItem::Inner);
+	Dissolve(Object, &FItem::Instances);
 	ByName.Remove(FObjectKey{ Object->OuterPrivate, Object->NamePrivate });
+	FItem& Item = GetItem(Object);
+	const uint32 SerialNumber = Item.SerialNumber;
+	Item = FItem();
+	Item.SerialNumber = SerialNumber;
+	FreeIndices.Add(Object->InternalIndex);
+}
+
+void FObjectTable::Move(UObject* Object, UObject* NewOuter, FName NewName)
+{
+	ByName.Remove(FObjectKey{ Object->OuterPrivate, Object->NamePrivate });
+	if (Object->OuterPrivate != NewOuter)
+	{
+		Unlink(Object->OuterPrivate, Object, &FItem::Inner);
+		Link(NewOuter, Object, &FItem::Inner);
+	}
+	Object->OuterPrivate = NewOuter;
+	Object->NamePrivate = NewName;
+	checkf(!Find(NewOuter, NewName), TEXT("there is an object named %s already"), *Object->GetPathName());
+	ByName.Add({ NewOuter, NewName }, Object);
+}
+
+void FObjectTable::GiveWay(UObject* Outer, FName Name)
+{
+	UObject* const Found = Find(Outer, Name);
+	if (Found && !IsValid(Found))
+	{
+		Move(Found, Outer, MakeUniqueObjectName(Outer, Found->GetClass(), Name));
+	}
+}
+
+void FObjectTable::SetClass(UObject* Object, UClass* Class)
+{
+	Object->ClassPrivate = Class;
+	Link(Class, Object, &FItem::Instances);
 }
 
 UObject* FObjectTable::Find(const UObject* Outer, FName Name) const
@@ -34,21 +70,74 @@ UObject* FObjectTable::Find(const UObject* Outer, FName Name) const
 	return ByName.FindRef(FObjectKey{ Outer, Name });
 }
 
-UObject* AllocateObject(UClass* Class, UObject* Outer, FName Name, EObjectFlags Flags)
+void FObjectTable::GetInstances(const UClass* Class, TArray<UObject*>& Out) const
 {
-	const SIZE_T Size = static_cast<SIZE_T>(Class->GetPropertiesSize());
-	void* const Memory = ::operator new(Size, std::align_val_t(Class->GetMinAlignment()));
-	std::memset(Memory, 0, Size);
-	const FObjectInitializer Initializer(Class, Outer, Name, Flags);
-	Class->ClassConstructor(Memory, Initializer);
-	return Initializer.GetObj();
+	Collect(Class, &FItem::Instances, Out);
 }
 
-void DestroyObject(UObject* Object)
+void FObjectTable::Link(const UObject* Holder, UObject* Member, FRing FItem::*Ring)
 {
-	const auto Alignment = static_cast<std::align_val_t>(Object->GetClass()->GetMinAlignment());
-	Object->~UObject();
-	::operator delete(static_cast<void*>(Object), Alignment);
+	if (!Holder)
+	{
+		return;
+	}
+	const int32 Index = Member->InternalIndex;
+	FRing& Own = Items[Index].*Ring;
+	int32& First = (GetItem(Holder).*Ring).First;
+	if (First == INDEX_NONE)
+	{
+		First = Own.Next = Own.Previous = Index;
+		return;
+	}
+	int32& Last = (Items[First].*Ring).Previous;
+	Own.Next = First;
+	Own.Previous = Last;
+	(Items[Last].*Ring).Next = Index;
+	Last = Index;
+}
+
+void FObjectTable::Unlink(const UObject* Holder, UObject* Member, FRing FItem::*Ring)
+{
+	FRing& Own = GetItem(Member).*Ring;
+	if (Own.Next == INDEX_NONE)
+	{
+		return; // never linked, or the holder has gone first
+	}
+	(Items[Own.Next].*Ring).Previous = Own.Previous;
+	(Items[Own.Previous].*Ring).Next = Own.Next;
+	int32& First = (GetItem(Holder).*Ring).First;
+	if (First == Member->InternalIndex)
+	{
+		First = Own.Next == First ? INDEX_NONE : Own.Next;
+	}
+	Own.Next = Own.Previous = INDEX_NONE;
+}
+
+void FObjectTable::Dissolve(const UObject* Holder, FRing FItem::*Ring)
+{
+	int32 Index = (GetItem(Holder).*Ring).First;
+	while (Index != INDEX_NONE)
+	{
+		FRing& Member = Items[Index].*Ring;
+		Index = Member.Next;
+		Member.Next = Member.Previous = INDEX_NONE;
+		if (Index != INDEX_NONE && (Items[Index].*Ring).Next == INDEX_NONE)
+		{
+			break;
+		}
+	}
+}
+
+void FObjectTable::Collect(const UObject* Holder, FRing FItem::*Ring, TArray<UObject*>& Out) const
+{
+	const int32 First = (Items[Holder->InternalIndex].*Ring).First;
+	int32 Index = First;
+	while (Index != INDEX_NONE)
+	{
+		const FItem& Item = Items[Index];
+		Out.Add(Item.Object);
+		Index = (Item.*Ring).Next == First ? INDEX_NONE : (Item.*Ring).Next;
+	}
 }
 
 FWeakObjectPtr::FWeakObjectPtr(const UObject* Object)
@@ -67,5 +156,5 @@ UObject* FWeakObjectPtr::Get() const
 		return nullptr;
 	}
 	const FObjectTable::FItem& Item = FObjectTable::Get().GetItems()[ObjectIndex];
-	return Item.SerialNumber == SerialNumber ? Item.Object : nullptr;
+	return Item.SerialNumber == SerialNumber && ::IsValid(Item.Object) ? Item.Object : nullptr;
 }

@@ -1,31 +1,10 @@
 #include "PropertyText.h"
 
 #include "Misc/Parse.h"
-
-#include <charconv>
-#include <string>
+#include "UObject/ObjectMacros.h"
 
 namespace PropertyText
 {
-namespace
-{
-template <typename T>
-bool ParseNumber(const FString& Text, T& Out)
-{
-	const std::string Bytes = FUtf8::Encode(Text);
-	const char* const Begin = Bytes.data() + (Bytes.starts_with('+') ? 1 : 0);
-	const char* const End = Bytes.data() + Bytes.size();
-	T Number{};
-	const std::from_chars_result Result = std::from_chars(Begin, End, Number);
-	if (Result.ec != std::errc() || Result.ptr != End)
-	{
-		return false;
-	}
-	Out = Number;
-	return true;
-}
-}
-
 const TCHAR* ReadQuoted(const TCHAR* Buffer, FString& Out)
 {
 	int32 Length = 0;
@@ -79,13 +58,37 @@ const TCHAR* SkipValue(const TCHAR* Buffer)
 	return Depth == 0 ? Buffer : nullptr;
 }
 
-bool ParseInteger(const FString& Text, int64& Out)
+void ExportString(FString& ValueStr, const FString& Text, int32 PortFlags)
 {
-	return ParseNumber(Text, Out);
+	if (PortFlags & PPF_Delimited)
+	{
+		FParse::AppendQuotedString(ValueStr, Text);
+	}
+	else
+	{
+		ValueStr += Text;
+	}
 }
 
-bool ParseReal(const FString& Text, double& Out)
+const TCHAR* ImportString(const TCHAR* Buffer, FString& Out, int32 PortFlags)
 {
-	return ParseNumber(Text, Out);
+	if (PortFlags & PPF_Delimited)
+	{
+		return ReadDelimited(Buffer, Out);
+	}
+	Out = Buffer;
+	return Buffer + Out.Len();
+}
+
+bool StartsWith(const TCHAR* Buffer, std::u16string_view Prefix)
+{
+	for (const TCHAR Char : Prefix)
+	{
+		if (*Buffer++ != Char)
+		{
+			return false;
+		}
+	}
+	return true;
 }
 }

@@ -2,6 +2,10 @@
 
 #include "CoreMinimal.h"
 
+#include <charconv>
+#include <string>
+#include <string_view>
+
 /** The pieces that values as text are made of. */
 namespace PropertyText
 {
@@ -15,7 +19,51 @@ const TCHAR* SkipBlanks(const TCHAR* Buffer);
 /** Passes over one value of any kind. @return behind it; null when a bracket or quote has no match */
 const TCHAR* SkipValue(const TCHAR* Buffer);
 
-/** The whole of Text as a number, or false. */
-bool ParseInteger(const FString& Text, int64& Out);
-bool ParseReal(const FString& Text, double& Out);
+/**
+ * Reads "(item,item)", blanks and a comma before the end allowed. ReadItem reads one from where it begins and returns behind it, or null.
+ * @return behind the closing bracket; null when Buffer is no list
+ */
+template <typename ReadType>
+const TCHAR* ReadList(const TCHAR* Buffer, const ReadType& ReadItem)
+{
+	if (*Buffer != '(')
+	{
+		return nullptr;
+	}
+	Buffer = SkipBlanks(Buffer + 1);
+	while (*Buffer != ')')
+	{
+		Buffer = ReadItem(Buffer);
+		Buffer = Buffer ? SkipBlanks(Buffer) : nullptr;
+		if (!Buffer || (*Buffer != ',' && *Buffer != ')'))
+		{
+			return nullptr;
+		}
+		Buffer = *Buffer == ',' ? SkipBlanks(Buffer + 1) : Buffer;
+	}
+	return Buffer + 1;
+}
+
+/** A string as a value: all of the text, or with PPF_Delimited quoted. */
+void ExportString(FString& ValueStr, const FString& Text, int32 PortFlags);
+const TCHAR* ImportString(const TCHAR* Buffer, FString& Out, int32 PortFlags);
+
+bool StartsWith(const TCHAR* Buffer, std::u16string_view Prefix);
+
+/** The whole of Text as a number that a T can hold, or false with nothing written. */
+template <typename T>
+bool ParseNumber(const FString& Text, T& Out)
+{
+	const std::string Bytes = FUtf8::Encode(Text);
+	const char* const Begin = Bytes.data() + (Bytes.starts_with('+') ? 1 : 0);
+	const char* const End = Bytes.data() + Bytes.size();
+	T Number{};
+	const std::from_chars_result Result = std::from_chars(Begin, End, Number);
+	if (Result.ec != std::errc() || Result.ptr != End)
+	{
+		return false;
+	}
+	Out = Number;
+	return true;
+}
 }

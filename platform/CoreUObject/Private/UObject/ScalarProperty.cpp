@@ -3,60 +3,13 @@
 #include "Misc/Parse.h"
 #include "PropertyText.h"
 
-#include <limits>
+IMPLEMENT_FIELD(FStrProperty)
+IMPLEMENT_FIELD(FNameProperty)
+IMPLEMENT_FIELD(FTextProperty)
+IMPLEMENT_FIELD(FBoolProperty)
 
 namespace
 {
-template <typename T>
-const TCHAR* ImportInteger(const TCHAR* Buffer, void* PropertyValue)
-{
-	FString Word;
-	int64 Number = 0;
-	const TCHAR* const End = PropertyText::ReadWord(Buffer, Word);
-	if (!PropertyText::ParseInteger(Word, Number) || Number < std::numeric_limits<T>::min() || Number > std::numeric_limits<T>::max())
-	{
-		return nullptr;
-	}
-	*static_cast<T*>(PropertyValue) = static_cast<T>(Number);
-	return End;
-}
-
-template <typename T>
-const TCHAR* ImportReal(const TCHAR* Buffer, void* PropertyValue)
-{
-	FString Word;
-	double Number = 0;
-	const TCHAR* const End = PropertyText::ReadWord(Buffer, Word);
-	if (!PropertyText::ParseReal(Word, Number))
-	{
-		return nullptr;
-	}
-	*static_cast<T*>(PropertyValue) = static_cast<T>(Number);
-	return End;
-}
-
-void ExportString(FString& ValueStr, const FString& Text, uint32 PortFlags)
-{
-	if (PortFlags & PPF_Delimited)
-	{
-		FParse::AppendQuotedString(ValueStr, Text);
-	}
-	else
-	{
-		ValueStr += Text;
-	}
-}
-
-const TCHAR* ImportString(const TCHAR* Buffer, FString& Out, uint32 PortFlags)
-{
-	if (PortFlags & PPF_Delimited)
-	{
-		return PropertyText::ReadDelimited(Buffer, Out);
-	}
-	Out = Buffer;
-	return Buffer + Out.Len();
-}
-
 /** Reads the quoted texts of MACRO("a", "b"). @return behind the closing bracket, or null */
 const TCHAR* ImportTextMacro(const TCHAR* Buffer, TArray<FString>& Texts)
 {
@@ -75,72 +28,35 @@ const TCHAR* ImportTextMacro(const TCHAR* Buffer, TArray<FString>& Texts)
 }
 }
 
-void FIntProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32) const
+void FStrProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32 PortFlags, UObject*) const
 {
-	ValueStr += LexToString(GetPropertyValue(PropertyValue));
+	PropertyText::ExportString(ValueStr, GetPropertyValue(Value), PortFlags);
 }
 
-const TCHAR* FIntProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32) const
+const TCHAR* FStrProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject*, int32 PortFlags) const
 {
-	return ImportInteger<int32>(Buffer, PropertyValue);
+	return PropertyText::ImportString(Buffer, *static_cast<FString*>(Value), PortFlags);
 }
 
-void FInt64Property::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32) const
+void FNameProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32 PortFlags, UObject*) const
 {
-	ValueStr += LexToString(GetPropertyValue(PropertyValue));
+	PropertyText::ExportString(ValueStr, GetPropertyValue(Value).ToString(), PortFlags);
 }
 
-const TCHAR* FInt64Property::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32) const
-{
-	return ImportInteger<int64>(Buffer, PropertyValue);
-}
-
-void FFloatProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32) const
-{
-	ValueStr += FString::Printf(TEXT("%f"), static_cast<double>(GetPropertyValue(PropertyValue)));
-}
-
-const TCHAR* FFloatProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32) const
-{
-	return ImportReal<float>(Buffer, PropertyValue);
-}
-
-void FDoubleProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32) const
-{
-	ValueStr += FString::Printf(TEXT("%f"), GetPropertyValue(PropertyValue));
-}
-
-const TCHAR* FDoubleProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32) const
-{
-	return ImportReal<double>(Buffer, PropertyValue);
-}
-
-void FStrProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32 PortFlags) const
-{
-	ExportString(ValueStr, GetPropertyValue(PropertyValue), PortFlags);
-}
-
-const TCHAR* FStrProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32 PortFlags) const
-{
-	return ImportString(Buffer, *static_cast<FString*>(PropertyValue), PortFlags);
-}
-
-void FNameProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32 PortFlags) const
-{
-	ExportString(ValueStr, GetPropertyValue(PropertyValue).ToString(), PortFlags);
-}
-
-const TCHAR* FNameProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32 PortFlags) const
+const TCHAR* FNameProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject*, int32 PortFlags) const
 {
 	FString Text;
-	const TCHAR* const End = ImportString(Buffer, Text, PortFlags);
-	SetPropertyValue(PropertyValue, FName(Text));
+	const TCHAR* const End = PropertyText::ImportString(Buffer, Text, PortFlags);
+	if (End)
+	{
+		SetPropertyValue(Value, FName(Text));
+	}
 	return End;
 }
 
-void FTextProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32 PortFlags) const
+void FTextProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32 PortFlags, UObject*) const
 {
-	const FText& Text = GetPropertyValue(PropertyValue);
+	const FText& Text = GetPropertyValue(Value);
 	FString Namespace;
 	FString Key;
 	if (Text.GetNamespaceAndKey(Namespace, Key))
@@ -161,32 +77,31 @@ void FTextProperty::ExportTextItem_Direct(FString& ValueStr, const void* Propert
 	}
 	else
 	{
-		ExportString(ValueStr, Text.ToString(), PortFlags);
+		PropertyText::ExportString(ValueStr, Text.ToString(), PortFlags);
 	}
 }
 
-const TCHAR* FTextProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32 PortFlags) const
+const TCHAR* FTextProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject*, int32 PortFlags) const
 {
 	static constexpr std::u16string_view Localized = TEXT("NSLOCTEXT(");
 	static constexpr std::u16string_view Invariant = TEXT("INVTEXT(");
-	const std::u16string_view Text(Buffer);
 	TArray<FString> Parts;
-	if (Text.starts_with(Localized))
+	if (PropertyText::StartsWith(Buffer, Localized))
 	{
 		Parts.SetNum(3);
 		const TCHAR* const End = ImportTextMacro(Buffer + Localized.size(), Parts);
-		SetPropertyValue(PropertyValue, FText::Localized(*Parts[0], *Parts[1], *Parts[2]));
+		SetPropertyValue(Value, FText::Localized(*Parts[0], *Parts[1], *Parts[2]));
 		return End;
 	}
 	Parts.SetNum(1);
-	if (Text.starts_with(Invariant))
+	if (PropertyText::StartsWith(Buffer, Invariant))
 	{
 		const TCHAR* const End = ImportTextMacro(Buffer + Invariant.size(), Parts);
-		SetPropertyValue(PropertyValue, FText::AsCultureInvariant(Parts[0]));
+		SetPropertyValue(Value, FText::AsCultureInvariant(Parts[0]));
 		return End;
 	}
-	const TCHAR* const End = ImportString(Buffer, Parts[0], PortFlags);
-	SetPropertyValue(PropertyValue, FText::FromString(Parts[0]));
+	const TCHAR* const End = PropertyText::ImportString(Buffer, Parts[0], PortFlags);
+	SetPropertyValue(Value, FText::FromString(Parts[0]));
 	return End;
 }
 
@@ -203,17 +118,22 @@ void FBoolProperty::SetPropertyValue(void* Value, bool bNewValue) const
 	}
 }
 
-bool FBoolProperty::Identical(const void* A, const void* B, uint32) const
+void FBoolProperty::SerializeItem(FArchive& Ar, void* Value, const void*) const
 {
-	return GetPropertyValue(A) == (B && GetPropertyValue(B));
+	if (!Ar.IsObjectReferenceCollector())
+	{
+		uint8 Byte = GetPropertyValue(Value);
+		Ar << Byte;
+		SetPropertyValue(Value, Byte != 0);
+	}
 }
 
-void FBoolProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void*, UObject*, uint32) const
+void FBoolProperty::ExportText_Internal(FString& ValueStr, const void* Value, const void*, UObject*, int32, UObject*) const
 {
-	ValueStr += GetPropertyValue(PropertyValue) ? TEXT("True") : TEXT("False");
+	ValueStr += GetPropertyValue(Value) ? TEXT("True") : TEXT("False");
 }
 
-const TCHAR* FBoolProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject*, uint32) const
+const TCHAR* FBoolProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject*, int32) const
 {
 	FString Word;
 	const TCHAR* const End = PropertyText::ReadWord(Buffer, Word);
@@ -222,6 +142,6 @@ const TCHAR* FBoolProperty::ImportText_Direct(const TCHAR* Buffer, void* Propert
 	{
 		return nullptr;
 	}
-	SetPropertyValue(PropertyValue, bTrue);
+	SetPropertyValue(Value, bTrue);
 	return End;
 }

@@ -1,41 +1,29 @@
 #include "UObject/UObjectGlobals.h"
 
+#include "ObjectConstruction.h"
 #include "ObjectTable.h"
-#include "UObject/UnrealType.h"
+
+DEFINE_LOG_CATEGORY_STATIC(LogObj, Log, All);
 
 namespace
 {
 thread_local FObjectInitializer* Innermost = nullptr;
 
-/** "Lantern_0", "Lantern_1" and so on; the first that is free in Outer. */
-FName MakeUniqueName(const UClass* Class, const UObject* Outer)
+/** Whether the object is what a search asks for. */
+bool Fits(const UObject* Object, const UClass* Class, bool bExactClass)
 {
-	FName Name;
-	do
-	{
-		Name = FName(Class->GetFName(), ++Class->ClassUnique);
-	} while (FObjectTable::Get().Find(Outer, Name));
-	return Name;
-}
-
-/** Template's values, for an object whose constructor has run. */
-void CopyProperties(UObject* Object, const UObject* Template, uint64 Flags)
-{
-	for (TFieldIterator<FProperty> Property(Template->GetClass()); Property; ++Property)
-	{
-		if (Flags == CPF_None || Property->HasAnyPropertyFlags(Flags))
-		{
-			Property->CopyCompleteValue_InContainer(Object, Template);
-		}
-	}
+	return IsValid(Object) && (!Class || (bExactClass ? Object->GetClass() == Class : Object->IsA(Class)));
 }
 }
 
-FObjectInitializer::FObjectInitializer(UClass* InClass, UObject* InOuter, FName InName, EObjectFlags InFlags)
+FObjectInitializer::FObjectInitializer(
+	UClass* InClass, UObject* InOuter, FName InName, EObjectFlags InFlags, UObject* InArchetype, FObjectConstruction* InConstruction)
 	: Class(InClass)
 	, Outer(InOuter)
 	, Name(InName)
 	, Flags(InFlags)
+	, Archetype(InArchetype)
+	, Construction(InConstruction)
 	, Previous(Innermost)
 {
 	Innermost = this;
@@ -63,23 +51,85 @@ void FObjectInitializer::Identify(UObject* InObject) const
 	FObjectTable::Get().Add(Object);
 }
 
+UObject* UObject::CreateDefaultSubobject(
+	FName SubobjectName, UClass* ReturnType, UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient)
+{
+	const FObjectInitializer& Initializer = FObjectInitializer::Get();
+	checkf(Initializer.GetObj() == this && Initializer.Construction, TEXT("CreateDefaultSubobject is for constructors"));
+	check(ClassToCreateByDefault->IsChildOf(ReturnType));
+	if (ClassToCreateByDefault->HasAnyClassFlags(CLASS_Abstract))
+	{
+		checkf(!bIsRequired, TEXT("%s is abstract"), *ClassToCreateByDefault->GetName());
+		return nullptr;
+	}
+	const EObjectFlags Flags = (GetFlags() & RF_PropagateToSubObjects) | RF_DefaultSubObject | (bIsTransient ? RF_Transient : RF_NoFlags);
+	return Initializer.Construction->ConstructSubobject(ClassToCreateByDefault, this, SubobjectName, Flags, Initializer.Archetype);
+}
+
 UObject* StaticConstructObject(const UClass* Class, UObject* Outer, FName Name, EObjectFlags Flags, UObject* Template)
 {
 	checkf(!Class->HasAnyClassFlags(CLASS_Abstract), TEXT("%s is abstract"), *Class->GetName());
 	checkf(!Template || Class->IsChildOf(Template->GetClass()), TEXT("NewObject: the template is of another class"));
-	const UObject* const Defaults = Class->GetDefaultObject();
-	const FName ObjectName = Name.IsNone() ? MakeUniqueName(Class, Outer) : Name;
-	UObject* const Object = AllocateObject(const_cast<UClass*>(Class), Outer, ObjectName, Flags);
-	if (Template)
-	{
-		CopyProperties(Object, Template, CPF_None);
-	}
-	else
-	{
-		CopyProperties(Object, Defaults, CPF_Config);
-	}
-	Object->PostInitProperties();
+	UObject* const Archetype = Template ? Template : Class->GetDefaultObject();
+	FObjectTable::Get().GiveWay(Outer, Name);
+	const FName ObjectName = Name.IsNone() ? MakeUniqueObjectName(Outer, Class) : Name;
+	FObjectConstruction Construction;
+	UObject* const Object = Construction.Construct(const_cast<UClass*>(Class), Outer, ObjectName, Flags, Archetype);
+	Construction.Finish();
 	return Object;
+}
+
+FName MakeUniqueObjectName(const UObject* Outer, const UClass* Class, FName BaseName)
+{
+	const FName Base = BaseName.IsNone() ? Class->GetFName() : BaseName;
+	FName Name;
+	do
+	{
+		Name = FName(Base, ++Class->ClassUnique);
+	} while (FObjectTable::Get().Find(Outer, Name));
+	return Name;
+}
+
+bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlags Flags)
+{
+	UObject* const Outer = NewOuter ? NewOuter : OuterPrivate;
+	FName Name = NewName && *NewName ? FName(NewName) : NamePrivate;
+	const UObject* Holder = FObjectTable::Get().Find(Outer, Name);
+	if (!NewName && Holder && Holder != this)
+	{
+		Name = MakeUniqueObjectName(Outer, GetClass());
+		Holder = nullptr;
+	}
+	const bool bTaken = IsValid(Holder) && Holder != this;
+	if (bTaken || (Outer && (Outer == this || Outer->IsIn(this))))
+	{
+		UE_LOG(LogObj, Warning, TEXT("%s can't be renamed to %s in %s: %s"), *GetPathName(), *Name.ToString(), *GetPathNameSafe(Outer),
+			bTaken ? TEXT("the name is taken") : TEXT("it lies inside the object"));
+		return false;
+	}
+	if (Flags & REN_Test)
+	{
+		return true;
+	}
+	const bool bDirty = !(Flags & REN_DoNotDirty);
+	if (!(Flags & REN_NonTransactional))
+	{
+		Modify(bDirty);
+	}
+	if (Holder != this)
+	{
+		FObjectTable::Get().GiveWay(Outer, Name);
+	}
+	if (bDirty)
+	{
+		MarkPackageDirty();
+	}
+	FObjectTable::Get().Move(this, Outer, Name);
+	if (bDirty)
+	{
+		MarkPackageDirty();
+	}
+	return true;
 }
 
 UObject* StaticFindObject(UClass* Class, UObject* Outer, const TCHAR* Name, bool bExactClass)
@@ -95,23 +145,26 @@ UObject* StaticFindObject(UClass* Class, UObject* Outer, const TCHAR* Name, bool
 		bMore = Object && End != std::u16string_view::npos;
 		Rest.remove_prefix(bMore ? End + 1 : 0);
 	}
-	const bool bFits = Object && (!Class || (bExactClass ? Object->GetClass() == Class : Object->IsA(Class)));
-	return bFits ? Object : nullptr;
+	return Fits(Object, Class, bExactClass) ? Object : nullptr;
 }
 
-UPackage* CreatePackage(const TCHAR* PackageName)
+UObject* StaticFindObjectFast(UClass* Class, UObject* Outer, FName Name, bool bExactClass)
 {
-	UObject* const Found = FObjectTable::Get().Find(nullptr, PackageName);
-	return static_cast<UPackage*>(Found ? Found : AllocateObject(UPackage::StaticClass(), nullptr, PackageName, RF_Public));
+	UObject* const Object = FObjectTable::Get().Find(Outer, Name);
+	return Fits(Object, Class, bExactClass) ? Object : nullptr;
 }
 
-UPackage* GetTransientPackage()
+UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjectOptions Options)
 {
-	static UPackage* const Package = []
+	const bool bExactClass = Options == EFindFirstObjectOptions::ExactClass;
+	if (std::u16string_view(Name).find_first_of(u"./:") != std::u16string_view::npos)
 	{
-		UPackage* const New = CreatePackage(TEXT("/Engine/Transient"));
-		New->AddToRoot();
-		return New;
-	}();
-	return Package;
+		return StaticFindObject(Class, nullptr, Name, bExactClass);
+	}
+	ProcessNewlyLoadedUObjects();
+	const FName Wanted(Name);
+	TArray<UObject*> Objects;
+	GetObjectsOfClass(Class, Objects, !bExactClass, RF_NoFlags);
+	UObject* const* const Found = Objects.FindByPredicate([Wanted](const UObject* Object) { return Object->GetFName() == Wanted; });
+	return Found ? *Found : nullptr;
 }

@@ -29,3 +29,9 @@ To* CastChecked(From* Object)
 	check(Result);
 	return Result;
 }
+
+template <typename To, typename From>
+To* CastChecked(const TObjectPtr<From>& Object)
+{
+	return CastChecked<To>(Object.Get());
+}

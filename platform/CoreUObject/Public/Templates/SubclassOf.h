@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UObject/Class.h"
+#include "Templates/Casts.h"
 
 /** A class that is T or derives from it, or null. Laid out as a raw pointer. */
 template <typename T>
@@ -22,3 +22,10 @@ public:
 private:
 	UClass* Class = nullptr;
 };
+
+/** The class itself as a kind of UClass. */
+template <typename To, typename From>
+To* Cast(const TSubclassOf<From>& Class)
+{
+	return Cast<To>(Class.Get());
+}

@@ -1,52 +1,41 @@
 #pragma once
 
-#include "UObject/Property.h"
+#include "UObject/NumericProperty.h"
 
-/** A uint8, or an enum of one byte in TEnumAsByte. */
-class COREUOBJECT_API FByteProperty : public TProperty<uint8>
-{
-public:
-	FByteProperty(UStruct* InOwner, FName InName, UEnum* InEnum = nullptr)
-		: TProperty(InOwner, InName)
-		, Enum(InEnum)
-	{
-	}
-
-	/** Null for a number. */
-	UEnum* GetIntPropertyEnum() const { return Enum; }
-	FString GetCPPType() const override;
-	void ExportTextItem_Direct(
-		FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, uint32 PortFlags) const override;
-	const TCHAR* ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject* Owner, uint32 PortFlags) const override;
-
-private:
-	UEnum* const Enum;
-};
-
-/** An enum of 1, 2, 4 or 8 bytes. */
+/** An enum class of 1, 2, 4 or 8 bytes. As saved, a value is its name. */
 class COREUOBJECT_API FEnumProperty : public FProperty
 {
-public:
-	FEnumProperty(UStruct* InOwner, FName InName, UEnum* InEnum, int32 Size)
-		: FProperty(InOwner, InName, Size, Size)
-		, Enum(InEnum)
-	{
-	}
+	DECLARE_FIELD(FEnumProperty, FProperty)
+
+	using FProperty::FProperty;
+	~FEnumProperty() override { delete UnderlyingProp; }
 
 	UEnum* GetEnum() const { return Enum; }
-	/** The value as a number, whatever its size. */
-	int64 GetValue(const void* Value) const;
-	void SetValue(void* Value, int64 NewValue) const;
+	void SetEnum(UEnum* InEnum) { Enum = InEnum; }
+	/** The number that the values are kept as. */
+	FNumericProperty* GetUnderlyingProperty() const { return UnderlyingProp; }
+	/** Takes over the number that the values are kept as, and its size. */
+	void AddCppProperty(FProperty* Property);
 
+	void Link() override;
+	bool HasType() const override { return Enum && UnderlyingProp; }
 	FString GetCPPType() const override { return Enum->CppType; }
-	void InitializeValue(void* Dest) const override { SetValue(Dest, 0); }
-	void DestroyValue(void*) const override {}
-	void CopyCompleteValue(void* Dest, const void* Src) const override { SetValue(Dest, GetValue(Src)); }
-	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override { return GetValue(A) == (B ? GetValue(B) : 0); }
-	void ExportTextItem_Direct(
-		FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, uint32 PortFlags) const override;
-	const TCHAR* ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject* Owner, uint32 PortFlags) const override;
+	void CopySingleValue(void* Dest, const void* Src) const override { UnderlyingProp->CopySingleValue(Dest, Src); }
+	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override { return UnderlyingProp->Identical(A, B); }
+	bool CanBeKey() const override { return true; }
+	uint32 GetValueTypeHash(const void* Value) const override { return UnderlyingProp->GetValueTypeHash(Value); }
+	void Serialize(FArchive& Ar) override;
+	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
+
+protected:
+	FString MakeTypeTag() const override;
+	void InitializeSingleValue(void* Dest) const override { UnderlyingProp->InitializeValue(Dest); }
+	void DestroySingleValue(void*) const override {}
+	void ExportText_Internal(FString& ValueStr, const void* Value, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags) const override;
 
 private:
-	UEnum* const Enum;
+	UEnum* Enum = nullptr;
+	FNumericProperty* UnderlyingProp = nullptr;
 };

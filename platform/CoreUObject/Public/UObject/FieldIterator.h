@@ -11,6 +11,13 @@ enum class EFieldIterationFlags : uint8
 	Default = IncludeSuper,
 };
 
+/** The engine's other name for them. */
+namespace EFieldIteratorFlags
+{
+inline constexpr EFieldIterationFlags IncludeSuper = EFieldIterationFlags::IncludeSuper;
+inline constexpr EFieldIterationFlags ExcludeSuper = EFieldIterationFlags::None;
+}
+
 /** Visits the properties (T a FProperty) or functions (T a UFunction) of a type: its own in order, then each super type's. */
 template <typename T>
 class TFieldIterator
@@ -50,10 +57,22 @@ private:
 		}
 	}
 
+	static bool IsKind(const BaseType* Candidate)
+	{
+		if constexpr (bFunctions)
+		{
+			return Candidate->IsA(T::StaticClass());
+		}
+		else
+		{
+			return Candidate->template IsA<T>();
+		}
+	}
+
 	/** Goes on from a field of another kind, and from the end of one type to its super type. */
 	void Settle()
 	{
-		while (Struct && !dynamic_cast<T*>(Field))
+		while (Struct && !(Field && IsKind(Field)))
 		{
 			if (Field)
 			{

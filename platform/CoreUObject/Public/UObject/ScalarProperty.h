@@ -2,66 +2,70 @@
 
 #include "UObject/Property.h"
 
-/** A property whose values are written and read without regard to any other. */
-#define SCALAR_PROPERTY(Name, CppType)                                                                                                     \
+#define DECLARE_TEXT_PROPERTY(Name, CppType)                                                                                               \
 	class COREUOBJECT_API Name : public TProperty<CppType>                                                                                 \
 	{                                                                                                                                      \
-	public:                                                                                                                                \
+		DECLARE_FIELD(Name, FProperty)                                                                                                     \
 		using TProperty::TProperty;                                                                                                        \
 		FString GetCPPType() const override { return TEXT(#CppType); }                                                                     \
-		void ExportTextItem_Direct(                                                                                                        \
-			FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, uint32 PortFlags) const override;     \
-		const TCHAR* ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject* Owner, uint32 PortFlags) const override;         \
+                                                                                                                                           \
+	protected:                                                                                                                             \
+		void ExportText_Internal(FString& ValueStr, const void* Value, const void* DefaultValue, UObject* Parent, int32 PortFlags,         \
+			UObject* ExportRootScope) const override;                                                                                      \
+		const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags) const override;          \
 	};
 
-SCALAR_PROPERTY(FIntProperty, int32)
-SCALAR_PROPERTY(FInt64Property, int64)
-/** Six decimals as text. */
-SCALAR_PROPERTY(FFloatProperty, float)
-SCALAR_PROPERTY(FDoubleProperty, double)
-SCALAR_PROPERTY(FStrProperty, FString)
-SCALAR_PROPERTY(FNameProperty, FName)
+DECLARE_TEXT_PROPERTY(FStrProperty, FString)
+DECLARE_TEXT_PROPERTY(FNameProperty, FName)
 /** NSLOCTEXT("ns", "key", "source") or INVTEXT("text") as text, a plain string for one without key. */
-SCALAR_PROPERTY(FTextProperty, FText)
+DECLARE_TEXT_PROPERTY(FTextProperty, FText)
 
-#undef SCALAR_PROPERTY
+#undef DECLARE_TEXT_PROPERTY
 
 /** A bool, or one bit of a uint8. */
 class COREUOBJECT_API FBoolProperty : public FProperty
 {
-public:
-	/** A whole bool. */
-	FBoolProperty(UStruct* InOwner, FName InName)
-		: FBoolProperty(InOwner, InName, 0xFF)
+	DECLARE_FIELD(FBoolProperty, FProperty)
+
+	FBoolProperty(FFieldVariant InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags)
+		: FProperty(InOwner, InName, InFlags)
 	{
-	}
-	/** The bit that Mask has, of the byte at the property's offset. */
-	FBoolProperty(UStruct* InOwner, FName InName, uint8 Mask)
-		: FProperty(InOwner, InName, 1, 1)
-		, FieldMask(Mask)
-	{
+		SetLayout(1, 1);
 	}
 
+	/** A whole bool at first. @param Mask the bit that the value is, of the byte at the property's offset */
+	void SetBitField(uint8 Mask) { FieldMask = Mask; }
+	bool IsNativeBool() const { return FieldMask == 0xFF; }
 	bool GetPropertyValue(const void* Value) const { return (*static_cast<const uint8*>(Value) & FieldMask) != 0; }
 	void SetPropertyValue(void* Value, bool bNewValue) const;
-	bool GetPropertyValue_InContainer(const void* Container) const { return GetPropertyValue(ContainerPtrToValuePtr<void>(Container)); }
-	void SetPropertyValue_InContainer(void* Container, bool bNewValue) const
+	bool GetPropertyValue_InContainer(const void* Container, int32 ArrayIndex = 0) const
 	{
-		SetPropertyValue(ContainerPtrToValuePtr<void>(Container), bNewValue);
+		return GetPropertyValue(ContainerPtrToValuePtr<void>(Container, ArrayIndex));
 	}
-	bool IsNativeBool() const { return FieldMask == 0xFF; }
+	void SetPropertyValue_InContainer(void* Container, bool bNewValue, int32 ArrayIndex = 0) const
+	{
+		SetPropertyValue(ContainerPtrToValuePtr<void>(Container, ArrayIndex), bNewValue);
+	}
 
 	FString GetCPPType() const override { return IsNativeBool() ? TEXT("bool") : TEXT("uint8"); }
-	void InitializeValue(void* Dest) const override { SetPropertyValue(Dest, false); }
-	void DestroyValue(void*) const override {}
-	void CopyCompleteValue(void* Dest, const void* Src) const override { SetPropertyValue(Dest, GetPropertyValue(Src)); }
-	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-	void ExportTextItem_Direct(
-		FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, uint32 PortFlags) const override;
-	const TCHAR* ImportText_Direct(const TCHAR* Buffer, void* PropertyValue, UObject* Owner, uint32 PortFlags) const override;
+	void CopySingleValue(void* Dest, const void* Src) const override { SetPropertyValue(Dest, GetPropertyValue(Src)); }
+	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override
+	{
+		return GetPropertyValue(A) == (B && GetPropertyValue(B));
+	}
+	bool CanBeKey() const override { return true; }
+	uint32 GetValueTypeHash(const void* Value) const override { return GetTypeHash(GetPropertyValue(Value)); }
+	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
+
+protected:
+	void InitializeSingleValue(void* Dest) const override { SetPropertyValue(Dest, false); }
+	void DestroySingleValue(void*) const override {}
+	void ExportText_Internal(FString& ValueStr, const void* Value, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags) const override;
 
 private:
 	bool IsBool() const override { return true; }
 
-	uint8 FieldMask;
+	uint8 FieldMask = 0xFF;
 };

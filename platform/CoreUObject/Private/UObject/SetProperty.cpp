@@ -1,0 +1,140 @@
+#include "UObject/SetProperty.h"
+
+#include "PropertyText.h"
+#include "ScratchValue.h"
+
+IMPLEMENT_FIELD(FSetProperty)
+
+FString FSetProperty::GetCPPType() const
+{
+	return TEXT("TSet<") + ElementProp->GetCPPType() + TEXT(">");
+}
+
+FString FSetProperty::MakeTypeTag() const
+{
+	return FString::Printf(TEXT("SetProperty<%s>"), *ElementProp->GetTypeTag().ToString());
+}
+
+void FSetProperty::DestroySingleValue(void* Dest) const
+{
+	FScriptSetHelper(this, Dest).EmptyElements();
+	static_cast<FScriptSet*>(Dest)->~FScriptSet();
+}
+
+void FSetProperty::CopySingleValue(void* Dest, const void* Src) const
+{
+	if (Dest == Src)
+	{
+		return;
+	}
+	const FScriptSetHelper From(this, Src);
+	FScriptSetHelper To(this, Dest);
+	To.EmptyElements();
+	for (int32 Index = 0; Index < From.GetMaxIndex(); ++Index)
+	{
+		if (From.IsValidIndex(Index))
+		{
+			To.AddElement(From.GetElementPtr(Index));
+		}
+	}
+}
+
+bool FSetProperty::Identical(const void* A, const void* B, uint32 PortFlags) const
+{
+	const FScriptSetHelper One(this, A);
+	if (!B)
+	{
+		return One.Num() == 0;
+	}
+	const FScriptSetHelper Other(this, B);
+	if (One.Num() != Other.Num())
+	{
+		return false;
+	}
+	for (int32 Index = 0; Index < One.GetMaxIndex(); ++Index)
+	{
+		const int32 Found = One.IsValidIndex(Index) ? Other.FindIndex(One.GetElementPtr(Index)) : Index;
+		if (One.IsValidIndex(Index) &&
+			(Found == INDEX_NONE || !ElementProp->Identical(One.GetElementPtr(Index), Other.GetElementPtr(Found), PortFlags)))
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+void FSetProperty::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	SerializeField(Ar, ElementProp, this);
+}
+
+void FSetProperty::SerializeItem(FArchive& Ar, void* Value, const void*) const
+{
+	FScriptSetHelper Elements(this, Value);
+	int32 Count = Elements.Num();
+	if (!Ar.IsObjectReferenceCollector())
+	{
+		SerializeCount(Ar, Count);
+	}
+	if (Ar.IsLoading())
+	{
+		Elements.EmptyElements();
+		for (; Count > 0 && !Ar.IsError(); --Count)
+		{
+			const FScratchValue Element(ElementProp);
+			ElementProp->SerializeItem(Ar, Element.Get());
+			Elements.AddElement(Element.Get());
+		}
+		return;
+	}
+	for (int32 Index = 0; Index < Elements.GetMaxIndex(); ++Index)
+	{
+		if (Elements.IsValidIndex(Index))
+		{
+			ElementProp->SerializeItem(Ar, Elements.GetElementPtr(Index));
+		}
+	}
+	if (Ar.IsObjectReferenceCollector() && ElementProp->ContainsObjectReference())
+	{
+		Elements.RehashIfNeeded();
+	}
+}
+
+void FSetProperty::ExportText_Internal(
+	FString& ValueStr, const void* Value, const void*, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+{
+	const FScriptSetHelper Elements(this, Value);
+	const TCHAR* Separator = TEXT("(");
+	for (int32 Index = 0; Index < Elements.GetMaxIndex(); ++Index)
+	{
+		if (Elements.IsValidIndex(Index))
+		{
+			ValueStr += Separator;
+			Separator = TEXT(",");
+			ElementProp->ExportTextItem_Direct(
+				ValueStr, Elements.GetElementPtr(Index), nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
+		}
+	}
+	ValueStr += *Separator == '(' ? TEXT("()") : TEXT(")");
+}
+
+const TCHAR* FSetProperty::ImportText_Internal(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags) const
+{
+	FScriptSetHelper Elements(this, Value);
+	if (*Buffer == '(')
+	{
+		Elements.EmptyElements();
+	}
+	return PropertyText::ReadList(Buffer,
+		[&](const TCHAR* Item)
+		{
+		const FScratchValue Element(ElementProp);
+		Item = ElementProp->ImportText_Direct(Item, Element.Get(), OwnerObject, PortFlags | PPF_Delimited, nullptr);
+		if (Item)
+		{
+			Elements.AddElement(Element.Get());
+		}
+		return Item;
+	});
+}
