@@ -1,0 +1,7 @@
+#include "Engine/DataAsset.h"
+
+void UDataAsset::PostInitProperties()
+{
+	Super::PostInitProperties();
+	NativeClass = GetClass();
+}

@@ -1,0 +1,42 @@
+#include "Engine/World.h"
+
+#include "Components/SceneComponent.h"
+#include "GameFramework/GameModeBase.h"
+
+UWorld* UWorld::CreateWorld(UPackage* InPackage, FName WorldName)
+{
+	constexpr EObjectFlags Flags = RF_Public | RF_Standalone | RF_Transactional;
+	UWorld* const World = NewObject<UWorld>(InPackage, WorldName, Flags);
+	World->PersistentLevel = NewObject<ULevel>(World, FName(TEXT("PersistentLevel")), RF_Transactional);
+	World->PersistentLevel->OwningWorld = World;
+	World->SpawnActor(AWorldSettings::StaticClass(), nullptr, FName(TEXT("WorldSettings")));
+	return World;
+}
+
+AWorldSettings* UWorld::GetWorldSettings() const
+{
+	for (AActor* const Actor : PersistentLevel->Actors)
+	{
+		if (AWorldSettings* const Settings = Cast<AWorldSettings>(Actor))
+		{
+			return Settings;
+		}
+	}
+	return nullptr;
+}
+
+AActor* UWorld::SpawnActor(UClass* Class, const FTransform* UserTransformPtr, FName Name)
+{
+	if (!Class || !Class->IsChildOf<AActor>() || Class->HasAnyClassFlags(CLASS_Abstract))
+	{
+		return nullptr;
+	}
+	PersistentLevel->Modify();
+	AActor* const Actor = NewObject<AActor>(PersistentLevel, Class, Name, RF_Transactional);
+	PersistentLevel->Actors.Add(Actor);
+	if (UserTransformPtr && Actor->GetRootComponent())
+	{
+		Actor->GetRootComponent()->SetWorldTransform(*UserTransformPtr);
+	}
+	return Actor;
+}
