@@ -1,4 +1,5 @@
 #include "Editor/Transactor.h"
+#include "Kismet2/KismetEditorUtilities.h"
 #include "Serialization/MemoryReader.h"
 #include "Serialization/MemoryWriter.h"
 #include "UObject/UObjectGlobals.h"
@@ -62,6 +63,23 @@ private:
 
 namespace
 {
+/** That an object is, is a part of, or is a part of the class of; null for none. */
+UBlueprint* FindBlueprint(UObject* Object)
+{
+	for (; Object; Object = Object->GetOuter())
+	{
+		if (UBlueprint* const Blueprint = Cast<UBlueprint>(Object))
+		{
+			return Blueprint;
+		}
+		if (const UClass* const Class = Cast<UClass>(Object))
+		{
+			return UBlueprint::GetBlueprintFromClass(Class);
+		}
+	}
+	return nullptr;
+}
+
 /** What undo sets and clears; the other flags are the object's own matter. */
 constexpr EObjectFlags RestoredFlags = RF_MirroredGarbage | RF_Public | RF_Standalone | RF_Transient;
 }
@@ -112,7 +130,6 @@ void FTransaction::Apply()
 	// Nothing that happens here is a change of its own.
 	ITransaction* const Outside = GUndo;
 	GUndo = nullptr;
-	TArray<FObjectState> Present;
 	for (const FRecord& Record : Records)
 	{
 		Present.Add(FObjectState(Record.Object.Get()));
@@ -133,10 +150,12 @@ void FTransaction::Apply()
 		Record.State.RestoreValues(Record.Object.Get());
 		Record.Object->MarkPackageDirty();
 	}
+	CompileBlueprints();
 	for (int32 Index = 0; Index < Records.Num(); ++Index)
 	{
 		Records[Index].State = MoveTemp(Present[Index]);
 	}
+	Present.Empty();
 	for (const FRecord& Record : Records)
 	{
 		Record.Object->PostEditUndo();
@@ -150,9 +169,18 @@ void FTransaction::SerializeReferences(FArchive& Ar)
 	{
 		UObject* Object = Pointer.Get();
 		Ar << Object;
-		if (Object != Pointer.Get())
+		// What nothing could replace stays, as garbage.
+		if (Object && Object != Pointer.Get())
 		{
 			Pointer.Reset(Object);
+		}
+	};
+	const auto PassState = [&Pass](FObjectState& State)
+	{
+		Pass(State.Outer);
+		for (TStrongObjectPtr<UObject>& Each : State.Referred)
+		{
+			Pass(Each);
 		}
 	};
 	Recorded.Empty();
@@ -160,10 +188,35 @@ void FTransaction::SerializeReferences(FArchive& Ar)
 	{
 		Pass(Record.Object);
 		Recorded.Add(Record.Object.Get());
-		Pass(Record.State.Outer);
-		for (TStrongObjectPtr<UObject>& Each : Record.State.Referred)
+		PassState(Record.State);
+	}
+	for (FObjectState& State : Present)
+	{
+		PassState(State);
+	}
+}
+
+void FTransaction::CompileBlueprints()
+{
+	TArray<UBlueprint*> Blueprints;
+	for (const FRecord& Record : Records)
+	{
+		UBlueprint* const Blueprint = FindBlueprint(Record.Object.Get());
+		if (IsValid(Blueprint))
 		{
-			Pass(Each);
+			Blueprints.AddUnique(Blueprint);
+		}
+	}
+	for (UBlueprint* const Blueprint : Blueprints)
+	{
+		FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	}
+	for (const FRecord& Record : Records)
+	{
+		// Their classes lacked the variables that have come back.
+		if (Record.Object->HasAnyFlags(RF_ClassDefaultObject))
+		{
+			Record.State.RestoreValues(Record.Object.Get());
 		}
 	}
 }

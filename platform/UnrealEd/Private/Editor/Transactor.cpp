@@ -113,5 +113,9 @@ void UTransactor::Serialize(FArchive& Ar)
 		{
 			Transaction->SerializeReferences(Ar);
 		}
+		if (Active)
+		{
+			Active->SerializeReferences(Ar);
+		}
 	}
 }

@@ -62,8 +62,13 @@ private:
 		FObjectState State;
 	};
 
+	/** For Blueprints among the objects, or with parts among them: their classes follow, with the values of the class default objects. */
+	void CompileBlueprints();
+
 	FText Title;
 	TArray<FRecord> Records;
+	/** While the transaction is applied: for each record, the state that the object had. */
+	TArray<FObjectState> Present;
 	TSet<const UObject*> Recorded;
 };
 
