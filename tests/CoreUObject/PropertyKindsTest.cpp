@@ -124,6 +124,7 @@ UTestKinds* MakeFull()
 	Object->Time = FDateTime(2026, 1, 31, 12, 30, 15, 250);
 	Object->Span = FTimespan(-937845000000);
 	Object->Path = FSoftObjectPath(TEXT("/Game/A.A:B.C"));
+	Object->Asset = FTopLevelAssetPath(TEXT("/Game/A.A"));
 	Object->Tree = MakeKey(TEXT("t"), 1);
 	Object->Tree.Children.Add(MakeKey(TEXT("c"), 2));
 	return Object;
@@ -178,6 +179,7 @@ const FKindCase Kinds[] = {
 	{ TEXT("Time"), TEXT("FDateTime"), TEXT("StructProperty<DateTime>"), TEXT("2026.01.31-12.30.15.250"), nullptr },
 	{ TEXT("Span"), TEXT("FTimespan"), TEXT("StructProperty<Timespan>"), TEXT("-1.02:03:04.5000000"), nullptr },
 	{ TEXT("Path"), TEXT("FSoftObjectPath"), TEXT("StructProperty<SoftObjectPath>"), TEXT("/Game/A.A:B.C"), TEXT("\"/Game/A.A:B.C\"") },
+	{ TEXT("Asset"), TEXT("FTopLevelAssetPath"), TEXT("StructProperty<TopLevelAssetPath>"), TEXT("/Game/A.A"), TEXT("\"/Game/A.A\"") },
 	{ TEXT("Tree"), TEXT("FTestKey"), TEXT("StructProperty<TestKey>"),
 		TEXT("(Name=\"t\",Number=1,Children=((Name=\"c\",Number=2,Children=())))"), nullptr },
 };

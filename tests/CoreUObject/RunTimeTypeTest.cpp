@@ -53,9 +53,9 @@ TEST(RunTimeClass, HasItsPropertiesBehindThoseOfItsSuperClassAndDefaultsOfItsOwn
 	const TStrongObjectPtr<UClass> Base(MakeClass(UTestPart::StaticClass(), TEXT("RunTimeBase"),
 		[](UClass* Class)
 		{
-			Add<FBoolProperty>(Class, TEXT("bOpen"));
-			Add<FStrProperty>(Class, TEXT("Label"));
-		}));
+		Add<FBoolProperty>(Class, TEXT("bOpen"));
+		Add<FStrProperty>(Class, TEXT("Label"));
+	}));
 	const TStrongObjectPtr<UClass> Child(
 		MakeClass(Base.Get(), TEXT("RunTimeChild"), [](UClass* Class) { Add<FDoubleProperty>(Class, TEXT("Weight")); }));
 	Value<FString>(Base->GetDefaultObject(), TEXT("Label")) = TEXT("a label that is long enough to lie on the heap");
@@ -74,21 +74,21 @@ TEST(RunTimeClass, TaggedPropertiesSurviveAddedRemovedAndChangedOnes)
 	const TStrongObjectPtr<UClass> Before(MakeClass(UTestPart::StaticClass(), TEXT("Before"),
 		[](UClass* Class)
 		{
-			Add<FStrProperty>(Class, TEXT("Kept"));
-			Add<FStrProperty>(Class, TEXT("Removed"));
-			Add<FIntProperty>(Class, TEXT("Changed"));
-			Add<FIntProperty>(Class, TEXT("Default"));
-			Add<FNameProperty>(Class, TEXT("Last"));
-		}));
+		Add<FStrProperty>(Class, TEXT("Kept"));
+		Add<FStrProperty>(Class, TEXT("Removed"));
+		Add<FIntProperty>(Class, TEXT("Changed"));
+		Add<FIntProperty>(Class, TEXT("Default"));
+		Add<FNameProperty>(Class, TEXT("Last"));
+	}));
 	const TStrongObjectPtr<UClass> After(MakeClass(UTestPart::StaticClass(), TEXT("After"),
 		[](UClass* Class)
 		{
-			Add<FNameProperty>(Class, TEXT("Last"));
-			Add<FStrProperty>(Class, TEXT("Added"));
-			Add<FStrProperty>(Class, TEXT("Changed"));
-			Add<FIntProperty>(Class, TEXT("Default"));
-			Add<FStrProperty>(Class, TEXT("Kept"));
-		}));
+		Add<FNameProperty>(Class, TEXT("Last"));
+		Add<FStrProperty>(Class, TEXT("Added"));
+		Add<FStrProperty>(Class, TEXT("Changed"));
+		Add<FIntProperty>(Class, TEXT("Default"));
+		Add<FStrProperty>(Class, TEXT("Kept"));
+	}));
 	Value<int32>(Before->GetDefaultObject(), TEXT("Default")) = 3;
 	Value<int32>(After->GetDefaultObject(), TEXT("Default")) = 4;
 	const TStrongObjectPtr<UObject> From(NewObject<UObject>(GetTransientPackage(), Before.Get()));

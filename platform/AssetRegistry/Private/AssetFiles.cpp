@@ -49,16 +49,16 @@ void FAssetFiles::Visit(const FString& Directory, FFiles& Found, bool bForceResc
 	FPlatformFileManager::Get().GetPlatformFile().IterateDirectory(*Directory,
 		[&](const TCHAR* Path, bool bIsDirectory)
 		{
-			if (bIsDirectory)
-			{
-				Directories.Add(Path);
-			}
-			else if (const FString File(Path); IsPackageFile(File))
-			{
-				VisitFile(File, Found, bForceRescan, Changes);
-			}
-			return true;
-		});
+		if (bIsDirectory)
+		{
+			Directories.Add(Path);
+		}
+		else if (const FString File(Path); IsPackageFile(File))
+		{
+			VisitFile(File, Found, bForceRescan, Changes);
+		}
+		return true;
+	});
 	for (const FString& Each : Directories)
 	{
 		Visit(Each, Found, bForceRescan, Changes);

@@ -118,21 +118,19 @@ bool FAssetRegistry::Gather(TArray<FAssetData>& OutAssetData, bool bOnlyOnDisk, 
 
 bool FAssetRegistry::GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses) const
 {
-	return Gather(
-		OutAssetData, false, [&](const FAssetData& Asset) { return IsOfClass(Asset, ClassPathName, bSearchSubClasses); });
+	return Gather(OutAssetData, false, [&](const FAssetData& Asset) { return IsOfClass(Asset, ClassPathName, bSearchSubClasses); });
 }
 
 bool FAssetRegistry::GetAssetsByPath(
 	FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive, bool bIncludeOnlyOnDiskAssets) const
 {
-	return Gather(OutAssetData, bIncludeOnlyOnDiskAssets,
-		[&](const FAssetData& Asset) { return IsInFolder(Asset, PackagePath, bRecursive); });
+	return Gather(
+		OutAssetData, bIncludeOnlyOnDiskAssets, [&](const FAssetData& Asset) { return IsInFolder(Asset, PackagePath, bRecursive); });
 }
 
 bool FAssetRegistry::GetAssetsByPackageName(FName PackageName, TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const
 {
-	return Gather(
-		OutAssetData, bIncludeOnlyOnDiskAssets, [&](const FAssetData& Asset) { return Asset.PackageName == PackageName; });
+	return Gather(OutAssetData, bIncludeOnlyOnDiskAssets, [&](const FAssetData& Asset) { return Asset.PackageName == PackageName; });
 }
 
 bool FAssetRegistry::GetAssets(const FARFilter& Filter, TArray<FAssetData>& OutAssetData) const

@@ -45,6 +45,13 @@ UPackage* MakePackage(const FString& PackageName, const FString& AssetName, FStr
 		OutReason = FString::Printf(TEXT("there is the file %s already"), *Filename);
 		return nullptr;
 	}
+	// File systems tell letters of both cases apart, names of packages do not.
+	TArray<FAssetData> Alike;
+	if (IAssetRegistry::GetChecked().GetAssetsByPackageName(FName(PackageName), Alike))
+	{
+		OutReason = FString::Printf(TEXT("there is the asset %s already"), *Alike[0].GetObjectPathString());
+		return nullptr;
+	}
 	UPackage* const Package = CreatePackage(*PackageName);
 	if (StaticFindObjectFast(UObject::StaticClass(), Package, FName(AssetName)))
 	{
@@ -54,47 +61,20 @@ UPackage* MakePackage(const FString& PackageName, const FString& AssetName, FStr
 	return Package;
 }
 
+UObject* MakeAsset(UPackage* Package, FName Name, UClass* AssetClass, UFactory* Factory, FName CallingContext)
+{
+	if (Factory)
+	{
+		return Factory->FactoryCreateNew(AssetClass, Package, Name, AssetFlags, nullptr, GWarn, CallingContext);
+	}
+	return AssetClass ? NewObject<UObject>(Package, AssetClass, Name, AssetFlags) : nullptr;
+}
+
 class FAssetTools final : public IAssetTools
 {
 public:
-	UObject* CreateAsset(const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory,
-		FName CallingContext) override
-	{
-		return Create(AssetName, PackagePath,
-			[=](UPackage* Package) -> UObject*
-			{
-				if (Factory)
-				{
-					return Factory->FactoryCreateNew(AssetClass, Package, FName(AssetName), AssetFlags, nullptr, GWarn, CallingContext);
-				}
-				return AssetClass ? NewObject<UObject>(Package, AssetClass, FName(AssetName), AssetFlags) : nullptr;
-			});
-	}
-
-	UObject* DuplicateAsset(const FString& AssetName, const FString& PackagePath, UObject* OriginalObject) override
-	{
-		return Create(AssetName, PackagePath,
-			[&](UPackage* Package) -> UObject*
-			{
-				UObject* const Copy = StaticDuplicateObject(OriginalObject, Package, FName(AssetName));
-				Copy->SetFlags(AssetFlags);
-				return Copy;
-			});
-	}
-
-	void CreateUniqueAssetName(
-		const FString& InBasePackageName, const FString& InSuffix, FString& OutPackageName, FString& OutAssetName) override
-	{
-		OutPackageName = InBasePackageName + InSuffix;
-		for (int32 Number = 1; FPackageName::DoesPackageExist(OutPackageName) || FindPackage(nullptr, *OutPackageName); ++Number)
-		{
-			OutPackageName = InBasePackageName + InSuffix + FString::FromInt(Number);
-		}
-		OutAssetName = FPackageName::GetLongPackageAssetName(OutPackageName);
-	}
-
-private:
-	static UObject* Create(const FString& AssetName, const FString& PackagePath, TFunctionRef<UObject*(UPackage*)> Make)
+	UObject* CreateAsset(
+		const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory, FName CallingContext) override
 	{
 		const FString PackageName = JoinPackageName(PackagePath, AssetName);
 		FString Reason;
@@ -103,7 +83,7 @@ private:
 		{
 			return Refuse(PackageName, Reason);
 		}
-		UObject* const Asset = Make(Package);
+		UObject* const Asset = MakeAsset(Package, FName(AssetName), AssetClass, Factory, CallingContext);
 		if (!Asset)
 		{
 			Package->MarkAsGarbage();

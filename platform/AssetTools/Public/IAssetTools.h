@@ -1,6 +1,7 @@
 #pragma once
 
-// AssetTools: new assets, with the refusals of an editor in which nobody can be asked. Left out: importing, asset menus, redirectors.
+// AssetTools: new assets, with the refusals of an editor in which nobody can be asked. Left out: copying, renaming, importing,
+// asset menus, redirectors.
 
 #include "UObject/Object.h"
 
@@ -18,11 +19,6 @@ public:
 	 * @param Factory null to make a plain object of the class
 	 * @return null, with the reason in the log, for a name or path that can't be, a name that is taken, and when the factory refuses
 	 */
-	virtual UObject* CreateAsset(const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory,
-		FName CallingContext = NAME_None) = 0;
-	/** A copy under another name. @return null as CreateAsset */
-	virtual UObject* DuplicateAsset(const FString& AssetName, const FString& PackagePath, UObject* OriginalObject) = 0;
-	/** The base name with the suffix, and a number behind it if that is taken. */
-	virtual void CreateUniqueAssetName(
-		const FString& InBasePackageName, const FString& InSuffix, FString& OutPackageName, FString& OutAssetName) = 0;
+	virtual UObject* CreateAsset(
+		const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory, FName CallingContext = NAME_None) = 0;
 };

@@ -2,12 +2,38 @@
 
 #include "Misc/Char.h"
 
-#include <random>
+#include <array>
+#include <sys/random.h>
+
+namespace
+{
+/** The system's randomness, fetched for many identifiers at once. */
+class FRandomPool
+{
+public:
+	uint32 Next()
+	{
+		if (Used == Numbers.size())
+		{
+			verify(::getentropy(Numbers.data(), sizeof(Numbers)) == 0);
+			Used = 0;
+		}
+		return Numbers[Used++];
+	}
+
+private:
+	std::array<uint32, 64> Numbers;
+	SIZE_T Used = Numbers.size();
+};
+}
 
 FGuid FGuid::NewGuid()
 {
-	thread_local std::random_device Random;
-	FGuid Guid(Random(), Random(), Random(), Random());
+	thread_local FRandomPool Random;
+	const uint32 A = Random.Next();
+	const uint32 B = Random.Next();
+	const uint32 C = Random.Next();
+	FGuid Guid(A, B, C, Random.Next());
 	Guid.B = (Guid.B & 0xffff0fff) | 0x00004000;
 	Guid.C = (Guid.C & 0x3fffffff) | 0x80000000;
 	return Guid;

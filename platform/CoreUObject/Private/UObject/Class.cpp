@@ -63,8 +63,7 @@ bool UClass::ImplementsInterface(const UClass* SomeInterface) const
 {
 	for (const UClass* Class = this; Class && SomeInterface; Class = Class->GetSuperClass())
 	{
-		if (Class->Interfaces.ContainsByPredicate(
-				[=](const FImplementedInterface& Each) { return Each.Class->IsChildOf(SomeInterface); }))
+		if (Class->Interfaces.ContainsByPredicate([=](const FImplementedInterface& Each) { return Each.Class->IsChildOf(SomeInterface); }))
 		{
 			return true;
 		}

@@ -1,32 +1,11 @@
 #include "ObjectTable.h"
-#include "Serialization/MemoryReader.h"
-#include "Serialization/MemoryWriter.h"
+#include "Serialization/ObjectReader.h"
+#include "Serialization/ObjectWriter.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
 namespace
 {
-/** What an object's copy is made of, in memory: names and references as they are there. */
-template <typename BaseType>
-class TRawArchive : public BaseType
-{
-public:
-	using BaseType::BaseType;
-
-	using BaseType::operator<<;
-	FArchive& operator<<(FName& Value) override
-	{
-		static_assert(std::is_trivially_copyable_v<FName>);
-		this->Serialize(&Value, sizeof(Value));
-		return *this;
-	}
-	FArchive& operator<<(UObject*& Value) override
-	{
-		this->Serialize(&Value, sizeof(Value));
-		return *this;
-	}
-};
-
 class FDuplicator
 {
 public:
@@ -46,7 +25,7 @@ public:
 		}
 		for (const FPart& Part : Parts)
 		{
-			TRawArchive<FMemoryReader> Reader(Part.Bytes);
+			FObjectReader Reader(Part.Bytes);
 			Part.Copy->Serialize(Reader);
 			ResetDuplicateTransient(Part.Copy);
 		}
@@ -66,20 +45,20 @@ private:
 	};
 
 	/** Writes the copies where the original refers to what is copied. */
-	class FWriter final : public TRawArchive<FMemoryWriter>
+	class FWriter final : public FObjectWriter
 	{
 	public:
 		FWriter(TArray<uint8>& OutBytes, FDuplicator& InOwner)
-			: TRawArchive(OutBytes)
+			: FObjectWriter(OutBytes)
 			, Owner(InOwner)
 		{
 		}
 
-		using TRawArchive::operator<<;
+		using FObjectWriter::operator<<;
 		FArchive& operator<<(UObject*& Value) override
 		{
 			UObject* Copy = Owner.FindOrMake(Value);
-			return TRawArchive::operator<<(Copy);
+			return FObjectWriter::operator<<(Copy);
 		}
 
 	private:

@@ -81,6 +81,7 @@ IMPLEMENT_BASE_STRUCTURE(Color, FBaseStructures::Color)
 IMPLEMENT_BASE_STRUCTURE(Guid, FBaseStructures::Guid)
 IMPLEMENT_BASE_STRUCTURE(DateTime, {})
 IMPLEMENT_BASE_STRUCTURE(Timespan, {})
+IMPLEMENT_BASE_STRUCTURE(TopLevelAssetPath, {})
 IMPLEMENT_BASE_STRUCTURE(SoftObjectPath, {})
 IMPLEMENT_BASE_STRUCTURE(SoftClassPath, {}, &Z_Construct_UScriptStruct_FSoftObjectPath)
 
@@ -90,7 +91,8 @@ constexpr UScriptStruct* (*Structs[])() = { &Z_Construct_UScriptStruct_FVector, 
 	&Z_Construct_UScriptStruct_FVector4, &Z_Construct_UScriptStruct_FRotator, &Z_Construct_UScriptStruct_FQuat,
 	&Z_Construct_UScriptStruct_FTransform, &Z_Construct_UScriptStruct_FIntPoint, &Z_Construct_UScriptStruct_FLinearColor,
 	&Z_Construct_UScriptStruct_FColor, &Z_Construct_UScriptStruct_FGuid, &Z_Construct_UScriptStruct_FDateTime,
-	&Z_Construct_UScriptStruct_FTimespan, &Z_Construct_UScriptStruct_FSoftObjectPath, &Z_Construct_UScriptStruct_FSoftClassPath };
+	&Z_Construct_UScriptStruct_FTimespan, &Z_Construct_UScriptStruct_FTopLevelAssetPath, &Z_Construct_UScriptStruct_FSoftObjectPath,
+	&Z_Construct_UScriptStruct_FSoftClassPath };
 constexpr FModuleTypes Types{ .Structs = Structs };
 const FRegisterModuleTypes Register(Types);
 }

@@ -65,6 +65,12 @@ void FObjectTable::SetClass(UObject* Object, UClass* Class)
 	Link(Class, Object, &FItem::Instances);
 }
 
+void FObjectTable::ChangeClass(UObject* Object, UClass* Class)
+{
+	Unlink(Object->ClassPrivate, Object, &FItem::Instances);
+	SetClass(Object, Class);
+}
+
 UObject* FObjectTable::Find(const UObject* Outer, FName Name) const
 {
 	return ByName.FindRef(FObjectKey{ Outer, Name });

@@ -52,6 +52,8 @@ public:
 	void GiveWay(UObject* Outer, FName Name);
 	/** For the first classes, which are made before there is a class of theirs. */
 	void SetClass(UObject* Object, UClass* Class);
+	/** For an object whose class gives its layout to another. */
+	void ChangeClass(UObject* Object, UClass* Class);
 	UObject* Find(const UObject* Outer, FName Name) const;
 	FItem& GetItem(const UObject* Object) { return Items[Object->InternalIndex]; }
 	/** Places of destroyed objects hold null. */

@@ -70,6 +70,18 @@ void ExportString(FString& ValueStr, const FString& Text, int32 PortFlags)
 	}
 }
 
+void ExportPath(FString& ValueStr, const FString& Path, int32 PortFlags)
+{
+	if (Path.IsEmpty())
+	{
+		ValueStr += TEXT("None");
+	}
+	else
+	{
+		ExportString(ValueStr, Path, PortFlags);
+	}
+}
+
 const TCHAR* ImportString(const TCHAR* Buffer, FString& Out, int32 PortFlags)
 {
 	if (PortFlags & PPF_Delimited)

@@ -46,6 +46,8 @@ const TCHAR* ReadList(const TCHAR* Buffer, const ReadType& ReadItem)
 
 /** A string as a value: all of the text, or with PPF_Delimited quoted. */
 void ExportString(FString& ValueStr, const FString& Text, int32 PortFlags);
+/** The same for a path that may be empty: None then. */
+void ExportPath(FString& ValueStr, const FString& Path, int32 PortFlags);
 const TCHAR* ImportString(const TCHAR* Buffer, FString& Out, int32 PortFlags);
 
 bool StartsWith(const TCHAR* Buffer, std::u16string_view Prefix);

@@ -22,17 +22,13 @@ void FSoftObjectPath::SetPath(const FString& Path)
 		SubPath = Rest.Mid(At + 1);
 		Rest.LeftInline(At);
 	}
+	FName AssetName;
 	if (Rest.FindChar('.', At))
 	{
 		AssetName = FName(Rest.Mid(At + 1));
 		Rest.LeftInline(At);
 	}
-	PackageName = FName(Rest);
-}
-
-FString FSoftObjectPath::GetAssetPathString() const
-{
-	return AssetName.IsNone() ? GetLongPackageName() : GetLongPackageName() + TEXT(".") + AssetName.ToString();
+	AssetPath = FTopLevelAssetPath(FName(Rest), AssetName);
 }
 
 FString FSoftObjectPath::ToString() const
@@ -53,14 +49,7 @@ UObject* FSoftObjectPath::TryLoad() const
 
 bool FSoftObjectPath::ExportTextItem(FString& ValueStr, const FSoftObjectPath&, UObject*, int32 PortFlags, UObject*) const
 {
-	if (IsNull())
-	{
-		ValueStr += TEXT("None");
-	}
-	else
-	{
-		PropertyText::ExportString(ValueStr, ToString(), PortFlags);
-	}
+	PropertyText::ExportPath(ValueStr, IsNull() ? FString() : ToString(), PortFlags);
 	return true;
 }
 

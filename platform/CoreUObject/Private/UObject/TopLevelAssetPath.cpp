@@ -1,5 +1,8 @@
 #include "UObject/TopLevelAssetPath.h"
 
+#include "ObjectText.h"
+#include "PropertyText.h"
+
 #include "UObject/Package.h"
 
 FTopLevelAssetPath::FTopLevelAssetPath(const UObject* Object)
@@ -35,4 +38,25 @@ FString FTopLevelAssetPath::ToString() const
 		return FString();
 	}
 	return AssetName.IsNone() ? PackageName.ToString() : PackageName.ToString() + TEXT(".") + AssetName.ToString();
+}
+
+bool FTopLevelAssetPath::ExportTextItem(FString& ValueStr, const FTopLevelAssetPath&, UObject*, int32 PortFlags, UObject*) const
+{
+	PropertyText::ExportPath(ValueStr, ToString(), PortFlags);
+	return true;
+}
+
+bool FTopLevelAssetPath::ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject*, FOutputDevice*)
+{
+	FString Text;
+	const TCHAR* const End = PropertyText::ImportString(Buffer, Text, PortFlags);
+	const FString Path = End ? ObjectText::GetReferencedPath(Text) : FString();
+	FTopLevelAssetPath Read;
+	if (!End || (!Path.IsEmpty() && !Read.TrySetPath(Path)))
+	{
+		return false;
+	}
+	*this = Read;
+	Buffer = End;
+	return true;
 }

@@ -171,14 +171,11 @@ class COREUOBJECT_API UClass : public UStruct
 	void Serialize(FArchive& Ar) override;
 
 	/** A type in memory by its short name or its path, or null. Short names are looked for among all objects. */
-	static UObject* TryFindTypeSlow(UClass* TypeClass, const FString& InPathNameOrShortName,
-		EFindFirstObjectOptions InOptions = {});
+	static UObject* TryFindTypeSlow(UClass* TypeClass, const FString& InPathNameOrShortName, EFindFirstObjectOptions InOptions = {});
 	/** The same where objects may not be looked for at the moment; then null. */
-	static UObject* TryFindTypeSlowSafe(UClass* TypeClass, const FString& InPathNameOrShortName,
-		EFindFirstObjectOptions InOptions = {});
+	static UObject* TryFindTypeSlowSafe(UClass* TypeClass, const FString& InPathNameOrShortName, EFindFirstObjectOptions InOptions = {});
 	template <typename T>
-	static T* TryFindTypeSlow(
-		const FString& InPathNameOrShortName, EFindFirstObjectOptions InOptions = {})
+	static T* TryFindTypeSlow(const FString& InPathNameOrShortName, EFindFirstObjectOptions InOptions = {})
 	{
 		return static_cast<T*>(TryFindTypeSlow(T::StaticClass(), InPathNameOrShortName, InOptions));
 	}

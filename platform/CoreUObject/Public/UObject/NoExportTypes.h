@@ -52,6 +52,7 @@ DECLARE_BASE_STRUCTURE(FColor, TBaseStructureTraits)
 DECLARE_BASE_STRUCTURE(FGuid, TTextStructureTraits)
 DECLARE_BASE_STRUCTURE(FDateTime, TTextStructureTraits)
 DECLARE_BASE_STRUCTURE(FTimespan, TTextStructureTraits)
+DECLARE_BASE_STRUCTURE(FTopLevelAssetPath, TTextStructureTraits)
 DECLARE_BASE_STRUCTURE(FSoftObjectPath, TTextStructureTraits)
 DECLARE_BASE_STRUCTURE(FSoftClassPath, TTextStructureTraits)
 

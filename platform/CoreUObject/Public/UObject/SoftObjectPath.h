@@ -2,6 +2,7 @@
 
 #include "Serialization/Archive.h"
 #include "UObject/Object.h"
+#include "UObject/TopLevelAssetPath.h"
 
 class FOutputDevice;
 
@@ -12,24 +13,31 @@ struct COREUOBJECT_API FSoftObjectPath
 	FSoftObjectPath(const FString& Path) { SetPath(Path); }
 	FSoftObjectPath(const TCHAR* Path) { SetPath(Path); }
 	FSoftObjectPath(const UObject* Object);
+	FSoftObjectPath(const FTopLevelAssetPath& InAssetPath, const FString& InSubPath = FString())
+		: AssetPath(InAssetPath)
+		, SubPath(InSubPath)
+	{
+	}
 
 	/** Also takes Class'Path'; None and an empty text are no path. */
 	void SetPath(const FString& Path);
 	/** Empty for no path. */
 	FString ToString() const;
-	/** "/Game/Folder/Asset" */
-	FString GetLongPackageName() const { return PackageName.IsNone() ? FString() : PackageName.ToString(); }
-	FName GetLongPackageFName() const { return PackageName; }
-	/** "Asset"; empty when the path is a package's. */
-	FString GetAssetName() const { return AssetName.IsNone() ? FString() : AssetName.ToString(); }
-	FName GetAssetFName() const { return AssetName; }
+	/** Of the asset itself, also for an object inside of it. */
+	const FTopLevelAssetPath& GetAssetPath() const { return AssetPath; }
 	/** "/Game/Folder/Asset.Asset" */
-	FString GetAssetPathString() const;
+	FString GetAssetPathString() const { return AssetPath.ToString(); }
+	/** "/Game/Folder/Asset" */
+	FString GetLongPackageName() const { return IsNull() ? FString() : GetLongPackageFName().ToString(); }
+	FName GetLongPackageFName() const { return AssetPath.GetPackageName(); }
+	/** "Asset"; empty when the path is a package's. */
+	FString GetAssetName() const { return GetAssetFName().IsNone() ? FString() : GetAssetFName().ToString(); }
+	FName GetAssetFName() const { return AssetPath.GetAssetName(); }
 	/** Behind the ":". */
 	const FString& GetSubPathString() const { return SubPath; }
-	bool IsNull() const { return PackageName.IsNone(); }
+	bool IsNull() const { return AssetPath.IsNull(); }
 	bool IsValid() const { return !IsNull(); }
-	bool IsAsset() const { return !AssetName.IsNone() && SubPath.IsEmpty(); }
+	bool IsAsset() const { return !GetAssetFName().IsNone() && SubPath.IsEmpty(); }
 	bool IsSubobject() const { return !SubPath.IsEmpty(); }
 	void Reset() { *this = FSoftObjectPath(); }
 
@@ -39,11 +47,8 @@ struct COREUOBJECT_API FSoftObjectPath
 	UObject* TryLoad() const;
 
 	bool operator==(const FSoftObjectPath&) const = default;
-	friend uint32 GetTypeHash(const FSoftObjectPath& Path)
-	{
-		return HashCombine(HashCombine(GetTypeHash(Path.PackageName), GetTypeHash(Path.AssetName)), GetTypeHash(Path.SubPath));
-	}
-	friend FArchive& operator<<(FArchive& Ar, FSoftObjectPath& Path) { return Ar << Path.PackageName << Path.AssetName << Path.SubPath; }
+	friend uint32 GetTypeHash(const FSoftObjectPath& Path) { return HashCombine(GetTypeHash(Path.AssetPath), GetTypeHash(Path.SubPath)); }
+	friend FArchive& operator<<(FArchive& Ar, FSoftObjectPath& Path) { return Ar << Path.AssetPath << Path.SubPath; }
 
 	/** The bare path, or None. */
 	bool ExportTextItem(
@@ -52,8 +57,7 @@ struct COREUOBJECT_API FSoftObjectPath
 	bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 
 private:
-	FName PackageName;
-	FName AssetName;
+	FTopLevelAssetPath AssetPath;
 	FString SubPath;
 };
 

@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Serialization/Archive.h"
 
+class FOutputDevice;
 class UObject;
 
 /** The path of an object that lies directly in a package: "/Script/Engine.Actor", "/Game/Folder/Asset.Asset". */
@@ -28,6 +29,11 @@ struct COREUOBJECT_API FTopLevelAssetPath
 	bool IsNull() const { return PackageName.IsNone(); }
 	bool IsValid() const { return !IsNull(); }
 	void Reset() { *this = FTopLevelAssetPath(); }
+
+	// As a property's value: the path, or None.
+	bool ExportTextItem(
+		FString& ValueStr, const FTopLevelAssetPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
+	bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 
 	bool operator==(const FTopLevelAssetPath&) const = default;
 	friend uint32 GetTypeHash(const FTopLevelAssetPath& Path)

@@ -39,6 +39,18 @@ private:
 };
 }
 
+FEdGraphTerminalType FEdGraphTerminalType::FromPinType(const FEdGraphPinType& PinType)
+{
+	FEdGraphTerminalType Terminal;
+	Terminal.TerminalCategory = PinType.PinCategory;
+	Terminal.TerminalSubCategory = PinType.PinSubCategory;
+	Terminal.TerminalSubCategoryObject = PinType.PinSubCategoryObject;
+	Terminal.bTerminalIsConst = PinType.bIsConst;
+	Terminal.bTerminalIsWeakPointer = PinType.bIsWeakPointer;
+	Terminal.bTerminalIsUObjectWrapper = PinType.bIsUObjectWrapper;
+	return Terminal;
+}
+
 bool FEdGraphTerminalType::Serialize(FArchive& Ar)
 {
 	if (Ar.IsObjectReferenceCollector())

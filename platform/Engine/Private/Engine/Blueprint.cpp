@@ -2,7 +2,10 @@
 
 #include "Engine/BlueprintGeneratedClass.h"
 #include "Engine/TimelineTemplate.h"
+#include "EngineLogs.h"
 #include "UObject/AssetRegistryTagsContext.h"
+
+DEFINE_LOG_CATEGORY(LogBlueprint);
 
 void FBPVariableDescription::SetMetaData(FName Key, FString Value)
 {
@@ -90,4 +93,28 @@ void UBlueprint::GetAssetRegistryTags(FAssetRegistryTagsContext Context) const
 	Add(FName(TEXT("GeneratedClass")), GeneratedClass);
 	Add(FName(TEXT("ParentClass")), ParentClass);
 	Add(FName(TEXT("NativeParentClass")), Native);
+}
+
+bool UBlueprint::DoesClassMatch() const
+{
+	const UClass* const Class = GeneratedClass;
+	const bool bVariables = !NewVariables.ContainsByPredicate([Class](const FBPVariableDescription& Variable)
+		{ return Variable.DefaultValue != Variable.CompiledDefaultValue || !Class->FindPropertyByName(Variable.VarName); });
+	const bool bFunctions = !FunctionGraphs.ContainsByPredicate(
+		[Class](const UEdGraph* Graph) { return Graph && !Class->FindFunctionByName(Graph->GetFName(), false); });
+	return bVariables && bFunctions;
+}
+
+void UBlueprint::PostLoad()
+{
+	Super::PostLoad();
+	if (!ParentClass)
+	{
+		UE_LOG(LogBlueprint, Error, TEXT("%s: the parent class is gone; it derives from Object now"), *GetPathName());
+		ParentClass = UObject::StaticClass();
+		Status = BS_Error;
+		return;
+	}
+	const bool bDerives = GeneratedClass && GeneratedClass->GetSuperClass() == ParentClass;
+	Status = bDerives && DoesClassMatch() ? BS_UpToDate : BS_Dirty;
 }

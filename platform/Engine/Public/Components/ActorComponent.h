@@ -68,7 +68,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Components", meta = (Keywords = "Delete", HidePin = "Object", DefaultToSelf = "Object"))
 	virtual void K2_DestroyComponent(UObject* Object);
 
-	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "Begin Play"))
+	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "BeginPlay"))
 	void ReceiveBeginPlay();
 	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "Tick"))
 	void ReceiveTick(float DeltaSeconds);

@@ -52,6 +52,9 @@ struct ENGINE_API FEdGraphTerminalType
 	UPROPERTY()
 	bool bTerminalIsUObjectWrapper = false;
 
+	/** The type of the pin's single values. */
+	static FEdGraphTerminalType FromPinType(const struct FEdGraphPinType& PinType);
+
 	bool operator==(const FEdGraphTerminalType&) const = default;
 	bool Serialize(FArchive& Ar);
 };

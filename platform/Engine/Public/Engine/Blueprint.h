@@ -90,6 +90,10 @@ struct ENGINE_API FBPVariableDescription
 	UPROPERTY(EditAnywhere, Category = BPVariableDescription)
 	FString DefaultValue;
 
+	/** DefaultValue as the last compile has given it to the class default object. */
+	UPROPERTY()
+	FString CompiledDefaultValue;
+
 	void SetMetaData(FName Key, FString Value);
 	/** INDEX_NONE when there is no such key. */
 	int32 FindMetaDataEntryIndexForKey(FName Key) const;
@@ -198,6 +202,8 @@ public:
 	virtual bool SupportedByDefaultBlueprintFactory() const { return true; }
 	/** Adds "GeneratedClass", "ParentClass" and "NativeParentClass": how the value of a class property would be written. */
 	void GetAssetRegistryTags(FAssetRegistryTagsContext Context) const override;
+	/** Loading compiles nothing: the class comes from the file. One whose parent is gone has an error. */
+	void PostLoad() override;
 	DECLARE_MULTICAST_DELEGATE_OneParam(FChangedEvent, UBlueprint*);
 	FChangedEvent& OnChanged() { return ChangedEvent; }
 	FChangedEvent& OnCompiled() { return CompiledEvent; }
@@ -205,6 +211,9 @@ public:
 	void BroadcastCompiled() { CompiledEvent.Broadcast(this); }
 
 private:
+	/** Whether the class in the file has the variables and functions that it is to have. */
+	bool DoesClassMatch() const;
+
 	FChangedEvent ChangedEvent;
 	FChangedEvent CompiledEvent;
 };

@@ -117,7 +117,7 @@ public:
 	UPROPERTY(BlueprintAssignable, Category = "Game")
 	FActorDestroyedSignature OnDestroyed;
 
-	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "Begin Play"))
+	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "BeginPlay"))
 	void ReceiveBeginPlay();
 	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "Tick"))
 	void ReceiveTick(float DeltaSeconds);

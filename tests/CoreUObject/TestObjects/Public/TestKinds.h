@@ -151,6 +151,9 @@ public:
 	FSoftObjectPath Path;
 
 	UPROPERTY()
+	FTopLevelAssetPath Asset;
+
+	UPROPERTY()
 	FTestKey Tree;
 
 	virtual FString Greet(const FString& Name) override { return TEXT("Hello, ") + Name; }
