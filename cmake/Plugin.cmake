@@ -5,7 +5,7 @@ set(PluginFolder ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Plugins/kestrin-unreal)
 kestrin_module(Kestrin HIDDEN
 	ROOT ${PluginSource}/Source/Kestrin
 	OUTPUT_DIRECTORY ${PluginFolder}/Binaries/Linux
-	DEPENDS Core CoreUObject Json
-	LIBRARIES HTTP Settings)
+	DEPENDS Core CoreUObject Json Engine
+	LIBRARIES AIModule AssetRegistry AssetTools BlueprintGraph HTTP Settings UnrealEd)
 
 configure_file(${PluginSource}/Kestrin.uplugin ${PluginFolder}/Kestrin.uplugin COPYONLY)

@@ -1,7 +1,5 @@
 #include "Agent/FileHistory.h"
 #include "Agent/KestrinInterface.h"
-#include "Dom/JsonObject.h"
-#include "Serialization/JsonSerializer.h"
 #include "Support/Conversation.h"
 
 #include <gmock/gmock.h>
@@ -11,13 +9,6 @@ using testing::ElementsAreArray;
 
 namespace
 {
-TSharedPtr<FJsonObject> ParseInput(const std::string& Text)
-{
-	TSharedPtr<FJsonObject> Input;
-	FJsonSerializer::Deserialize(TJsonReaderFactory<TCHAR>::Create(FUtf8::Decode(Text)), Input);
-	return Input;
-}
-
 /** A conversation that waits for the user, so that its tools can be run one by one. */
 class FOpenConversation : public FConversation
 {
@@ -28,11 +19,6 @@ public:
 		Project.Write("Source/Game/Deep/Hero.h", "hero\n");
 		StartAndFinishWith("", true);
 		Forget();
-	}
-
-	std::string Run(const char* Tool, const std::string& Input)
-	{
-		return ToUtf8(FAgent::Get().RunTool(Tool, TEXT("id"), ParseInput(Input)));
 	}
 
 	/** "none", or the action and content recorded for a path. */
@@ -81,7 +67,7 @@ TEST(ToolTable, MissingFieldsShowTheLineAndAnswerTheirText)
 	{
 		SCOPED_TRACE(std::string(Case.Tool) + Case.Input);
 		Talk.Forget();
-		EXPECT_EQ(Talk.Run(Case.Tool, Case.Input), Case.Result);
+		EXPECT_EQ(Talk.RunTool(Case.Tool, Case.Input), Case.Result);
 		EXPECT_EQ(Talk.Chat, Case.Line ? std::vector{ "progress|" + std::string(Case.Line) } : std::vector<std::string>());
 	}
 }
@@ -157,7 +143,7 @@ TEST(FileTools, EachChangeIsRecordedAndShown)
 		{
 			Result.replace(Place, 5, ToUtf8(Talk.Project.Dir()));
 		}
-		EXPECT_EQ(Talk.Run(Case.Tool, Case.Input), Result);
+		EXPECT_EQ(Talk.RunTool(Case.Tool, Case.Input), Result);
 		ASSERT_FALSE(Talk.Chat.empty());
 		Talk.Chat.erase(Talk.Chat.begin());
 		EXPECT_THAT(Talk.Chat, ElementsAreArray(Case.Chat));
@@ -195,7 +181,7 @@ TEST(FileTools, Reading)
 	for (const FCase& Case : Cases)
 	{
 		SCOPED_TRACE(Case.Input);
-		EXPECT_EQ(Talk.Run("read_file", Case.Input), Case.Result);
+		EXPECT_EQ(Talk.RunTool("read_file", Case.Input), Case.Result);
 	}
 }
 
@@ -203,12 +189,12 @@ TEST(FileTools, AbsurdInputIsTakenAsItIs)
 {
 	FOpenConversation Talk;
 	const std::string Large(10 << 20, 'x');
-	EXPECT_EQ(Talk.Run("create_file", R"({"path":"large.txt","file_text":")" + Large + "\"}"), "File created successfully: large.txt");
+	EXPECT_EQ(Talk.RunTool("create_file", R"({"path":"large.txt","file_text":")" + Large + "\"}"), "File created successfully: large.txt");
 	EXPECT_TRUE(Talk.Project.Read("large.txt") == Large);
-	EXPECT_EQ(Talk.Run("create_file", R"({"path":")" + std::string(5000, 'p') + R"(","file_text":"x"})"),
+	EXPECT_EQ(Talk.RunTool("create_file", R"({"path":")" + std::string(5000, 'p') + R"(","file_text":"x"})"),
 		"Error: Failed to create file: " + std::string(5000, 'p'));
-	EXPECT_EQ(Talk.Run("read_file", R"({"path":")" + std::string(5000, 'p') + R"("})"), "Error: File not found");
-	EXPECT_EQ(
-		Talk.Run("update_file", R"({"path":"a.txt","old_string":"\ud800","new_string":"x"})"), "Error: String not found in file: a.txt");
+	EXPECT_EQ(Talk.RunTool("read_file", R"({"path":")" + std::string(5000, 'p') + R"("})"), "Error: File not found");
+	EXPECT_EQ(Talk.RunTool("update_file", R"({"path":"a.txt","old_string":"\ud800","new_string":"x"})"),
+		"Error: String not found in file: a.txt");
 }
 }

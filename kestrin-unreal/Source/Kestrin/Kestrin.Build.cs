@@ -5,18 +5,26 @@ public class Kestrin : ModuleRules
 	public Kestrin(ReadOnlyTargetRules Target) : base(Target)
 	{
 		PCHUsage = PCHUsageMode.UseExplicitOrSharedPCHs;
+		// The export of a property's value may throw.
+		bEnableExceptions = true;
 
 		PublicDependencyModuleNames.AddRange(new string[]
 		{
 			"Core",
 			"CoreUObject",
+			"Engine",
 			"Json",
 		});
 
 		PrivateDependencyModuleNames.AddRange(new string[]
 		{
+			"AIModule",
+			"AssetRegistry",
+			"AssetTools",
+			"BlueprintGraph",
 			"HTTP",
 			"Settings",
+			"UnrealEd",
 		});
 	}
 }

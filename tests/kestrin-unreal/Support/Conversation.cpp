@@ -3,6 +3,7 @@
 #include "Agent/KestrinInterface.h"
 #include "CoreHost/Clock.h"
 #include "CoreHost/MainLoop.h"
+#include "Serialization/JsonSerializer.h"
 #include "UObject/Class.h"
 
 namespace
@@ -81,6 +82,13 @@ void FConversation::StartAndFinishWith(std::string_view Blocks, bool bAutoContin
 {
 	FKestrinInterface::Get().InitialRequest(TEXT("Go"));
 	FinishWith(Blocks, bAutoContinue);
+}
+
+std::string FConversation::RunTool(const char* Tool, std::string_view Input)
+{
+	TSharedPtr<FJsonObject> Json;
+	FJsonSerializer::Deserialize(TJsonReaderFactory<TCHAR>::Create(FUtf8::Decode(Input)), Json);
+	return ToUtf8(FAgent::Get().RunTool(Tool, TEXT("id"), Json));
 }
 
 std::string FConversation::State() const

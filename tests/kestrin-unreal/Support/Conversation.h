@@ -38,6 +38,9 @@ public:
 	/** Starts a conversation and finishes its first answer with these blocks. */
 	void StartAndFinishWith(std::string_view Blocks, bool bAutoContinue = false);
 
+	/** Runs a tool as an answer of the service would. @param Input a JSON object */
+	std::string RunTool(const char* Tool, std::string_view Input);
+
 	std::string State() const;
 	const FScriptedRequest& LastRequest() const { return Wire.GetRequests().Last(); }
 	std::string LastBody() const { return ToUtf8(LastRequest().Body); }

@@ -21,6 +21,7 @@ void RestoreDefaults(UKestrinSettings& Settings)
 	Settings.ApiKey.Empty();
 	Settings.Mode = EKestrinMode::ExplainerMode;
 	Settings.bDisplayFileChangesInChat = true;
+	Settings.BlueprintContentFilter = EKestrinBlueprintContentFilter::UseOnlyBlueprintVisibleContent;
 	Settings.LogRetentionPolicy = EKestrinLogDeletionPolicy::KeepLast30Days;
 	Settings.ResetSupportedFileExtensions();
 	Settings.ResetExcludedDirectories();

@@ -44,6 +44,17 @@ const TArray<FAgent::FTool>& FAgent::FToolTable::Get()
 		{ TEXT("read_file"), TEXT("Reading File..."), { { TEXT("path"), MissingPath } }, &FAgent::HandleReadFile },
 		{ TEXT("get_filesystem_tree"), nullptr, { { TEXT("dir_path"), TEXT("Error: Missing dir_path field") } },
 			&FAgent::HandleGetFilesystemTree },
+		{ TEXT("create_blueprint"), TEXT("Creating Blueprint File ..."),
+			{ { TEXT("BPPath"), MissingFields }, { TEXT("BPName"), MissingFields }, { TEXT("BPParentClassName"), MissingFields } },
+			&FAgent::HandleCreateBlueprint },
+		{ TEXT("read_blueprint"), TEXT("Reading Blueprint Asset ..."),
+			{ { TEXT("blueprint_name"), TEXT("Error: Missing required fields: blueprint_name") },
+				{ TEXT("data_subset"), TEXT("Error: Missing required fields: data_subset") } },
+			&FAgent::HandleReadBlueprint },
+		{ TEXT("read_behavior_tree"), TEXT("Reading Behavior Tree File ..."), { { TEXT("behavior_tree_name"), MissingFields } },
+			&FAgent::HandleReadBehaviorTree },
+		{ TEXT("save_and_compile_all_dirty_blueprints"), TEXT("Saving and compiling all dirty blueprints ..."), {},
+			&FAgent::HandleSaveAndCompileAllDirtyBlueprints },
 	};
 	return Table;
 }
@@ -74,10 +85,4 @@ FString FAgent::RunTool(const FTool& Tool, const FString& ToolId, const TSharedP
 		}
 	}
 	return (this->*Tool.Handler)(ToolId, Input);
-}
-
-FString FAgent::HandleFinish(const FString& ToolId, const TSharedPtr<FJsonObject>& Input)
-{
-	SetState(EAgentState::AwaitingUpdate);
-	return TEXT("Finished");
 }

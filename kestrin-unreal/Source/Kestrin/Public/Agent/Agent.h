@@ -171,6 +171,10 @@ private:
 	FString HandleDeleteCppFile(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleReadFile(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleGetFilesystemTree(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	FString HandleCreateBlueprint(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	FString HandleReadBlueprint(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	FString HandleReadBehaviorTree(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	FString HandleSaveAndCompileAllDirtyBlueprints(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 
 	/** Replaces the text of a file that is there, with its record and its diff. */
 	FString ReplaceRecordedFile(const FString& Path, const FString& Contents);

@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
+#include "HAL/CriticalSection.h"
 
 DECLARE_DELEGATE_OneParam(FOnDirectoryStructureReady, const FString&);
 
@@ -43,7 +44,8 @@ public:
 	/** The same in a later task of the game thread; the callback runs in another one after that. */
 	static void GetSubDirectoryStructureAsJsonObjectAsync(const FString& DirectoryPath, FOnDirectoryStructureReady Callback);
 	/**
-	 * Files first, then directories; directories without a file are left out, excluded ones are not looked into.
+	 * Files first, then directories; directories without a file are left out, excluded ones are not looked into. With class patterns
+	 * only assets of those classes stay, and their names map to the class's.
 	 * Extensions are without dots. Every entry of the lists is compared ignoring case.
 	 */
 	static TSharedPtr<FJsonObject> BuildJsonTree(const FString& DirectoryPath, const TArray<FString>& SupportedExtensions,
@@ -54,6 +56,26 @@ public:
 	/** The whole project's list, sorted, as a JSON array. */
 	static FString GetProjectStructureAsJsonList();
 
+	/** Class names by asset path (/Game/Folder/Name); none for an asset that could not be loaded. */
+	static TMap<FString, FName> AssetClassCache;
+	static FCriticalSection AssetClassCacheLock;
+
+	/** @return the path of the cache's file, its name included */
+	static FString GetAssetClassCacheSaveDirectory();
+	/** Reads the cache's file, once in a run; lines of assets that are gone are dropped. */
+	static void LoadAssetClassCache();
+	static void SaveAssetClassCache();
+	static void ClearAssetClassCache();
+	/**
+	 * Whether a file of a directory stays in the tree: an asset does when its C++ class is one of the patterns. It is loaded to find
+	 * out, unless the cache knows it. Anything stays when there are no patterns.
+	 * @param OutClassName the class; written only for an asset that stays because of it
+	 */
+	static bool FileMatchesAssetClassPatterns(
+		const FString& DirectoryPath, const FString& FileName, const TSet<FName>& AssetClassPatterns, FName& OutClassName);
+
 private:
+	static FString AssetClassSaveDirectory;
+
 	static void AsyncDirectoryWorker(const FString& DirectoryPath, FOnDirectoryStructureReady Callback);
 };

@@ -65,6 +65,11 @@ public:
 	bool CanRedo() const;
 	void UndoLastOperation();
 	void RedoLastOperation();
+	/**
+	 * Undoes the editor's transactions from the newest down to the newest of that title, which is undone, too; titles are compared
+	 * ignoring case. @return false, with nothing undone, when there is none of that title left to undo
+	 */
+	bool UndoUntilLastTransactionByName(const FString& Name);
 
 	void OnAddStatusMessage(const FString& Message, const FLinearColor& Color, const FName& FontName, float FontSize);
 	void OnAddDiffMessage(const FString& FilePath, const FString& OldContent, const FString& NewContent);

@@ -88,9 +88,11 @@ FString FFileUtils::GetSubDirectoryStructureAsJsonObject(const FString& Director
 		Extensions = Settings->SupportedFileExtensions;
 		Patterns = Settings->GetEnabledAssetClassPatterns();
 	}
+	LoadAssetClassCache();
 	TRACE_BOOKMARK(TEXT("Kestrin - Start GetSubDirectoryStructure"));
 	TSharedPtr<FJsonObject> Tree = BuildJsonTree(FPaths::ConvertRelativePathToFull(DirectoryPath), Extensions, Exclusions, Patterns);
 	TRACE_BOOKMARK(TEXT("Kestrin - End GetSubDirectoryStructure"));
+	SaveAssetClassCache();
 
 	const FString Text = ToCondensedJson(Tree.ToSharedRef());
 	Tree.Reset();
@@ -117,9 +119,12 @@ TSharedPtr<FJsonObject> FFileUtils::BuildJsonTree(const FString& DirectoryPath, 
 	Tree->Values.Reserve(Files.Num());
 	for (FString& File : Files)
 	{
-		if (SupportedExtensions.Contains(FPaths::GetExtension(File)))
+		FName ClassName;
+		if (SupportedExtensions.Contains(FPaths::GetExtension(File)) &&
+			FileMatchesAssetClassPatterns(DirectoryPath, File, AssetClassPatterns, ClassName))
 		{
-			Tree->Values.Add(MoveTemp(File), FileMark);
+			const TSharedPtr<FJsonValue> Mark = ClassName.IsNone() ? FileMark : MakeShared<FJsonValueString>(ClassName.ToString());
+			Tree->Values.Add(MoveTemp(File), Mark);
 		}
 	}
 	for (const FString& Directory : Directories)
