@@ -73,6 +73,16 @@ bool LoadModules(const FString& Folder, const TArray<FModuleDescriptor>& Modules
 	return bAll;
 }
 
+/** What is there in every project. */
+void LoadEngine()
+{
+	for (const TCHAR* const Module : { TEXT("Settings"), TEXT("Engine"), TEXT("BlueprintGraph"), TEXT("AIModule"), TEXT("UnrealEd"),
+			 TEXT("AssetRegistry"), TEXT("AssetTools") })
+	{
+		FModuleManager::Get().LoadModule(Module);
+	}
+}
+
 bool OpenProject(const FString& ProjectFile, FText& OutError)
 {
 	FProjectDescriptor Descriptor;
@@ -120,7 +130,7 @@ int32 RunEditor(FProgramOptions Options)
 	FHostClock::SetRate(Options.ClockRate);
 
 	FText Error;
-	FModuleManager::Get().LoadModule("Settings");
+	LoadEngine();
 	if (!OpenProject(Options.Project, Error))
 	{
 		return Fail(Error);

@@ -81,7 +81,6 @@ TEST(Headless, AnswersALineThatIsNoCommandWithAnErrorAndGoesOn)
 		R"({"do":"click","button":"[ Start ]"})",
 		R"({"do":"scroll"})",
 		R"({"do":"widgets"})",
-		R"({"do":"transactions"})",
 		R"({"do":"command","name":"OpenPluginWindow"})",
 	};
 	const ServiceProcess Service(Says);
@@ -248,6 +247,31 @@ TEST(Headless, RunsToolsOutsideAConversation)
 		EXPECT_EQ(Editor.Until("tool").back().dump(), Event);
 		EXPECT_EQ(Editor.Query()["tool_results"], 0) << "The result went to the caller and nowhere else.";
 	}
+}
+
+TEST(Headless, ABlueprintIsThereAfterARestart)
+{
+	const auto RunTool = [](Session& Editor, const char* Name, const Json& Input)
+	{
+		Editor.Send({ { "do", "tool" }, { "name", Name }, { "id", "" }, { "input", Input } });
+		return Editor.Until("tool").back().value("content", "");
+	};
+	const Json View = { { "blueprint_name", "BP_Door" }, { "data_subset", "All" } };
+	const Project Toy;
+	std::string Before;
+	{
+		Session Editor(Toy);
+		EXPECT_EQ(
+			RunTool(Editor, "create_blueprint", { { "BPPath", "/Game/Doors" }, { "BPName", "BP_Door" }, { "BPParentClassName", "Actor" } }),
+			"Success: Blueprint 'BP_Door' created at '/Game/Doors'.");
+		RunTool(Editor, "save_and_compile_all_dirty_blueprints", Json::object());
+		Before = RunTool(Editor, "read_blueprint", View);
+		EXPECT_EQ(Json::parse(Before).value("Path", ""), "/Game/Doors/BP_Door.BP_Door");
+		Editor.Send(Do("transactions"));
+		EXPECT_EQ(Editor.Until("transactions").back().dump(), R"({"event":"transactions","titles":[],"undone":0})");
+	}
+	Session Again(Toy);
+	EXPECT_EQ(RunTool(Again, "read_blueprint", View), Before);
 }
 
 TEST(Headless, ReportsAChangeOfAFileWithItsTexts)

@@ -136,6 +136,7 @@ const TArray<FCommand> Commands = {
 	{ TEXT("tick"), { { TEXT("seconds"), EField::Seconds } },
 		[](const FArguments& Arguments) { FMainLoop::RunFor(Arguments.Number(TEXT("seconds"), 0.0)); } },
 	{ TEXT("query"), {}, [](const FArguments&) { WriteStateEvent(); } },
+	{ TEXT("transactions"), {}, [](const FArguments&) { WriteTransactionsEvent(); } },
 };
 
 /** What is wrong with a command's field; empty when nothing is. */

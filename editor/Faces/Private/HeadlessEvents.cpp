@@ -3,6 +3,8 @@
 #include "Agent/Agent.h"
 #include "Agent/KestrinInterface.h"
 #include "ChatLook.h"
+#include "Editor.h"
+#include "Editor/Transactor.h"
 #include "EditorFaces.h"
 #include "JsonLine.h"
 #include "UObject/Class.h"
@@ -105,6 +107,20 @@ void WriteWaitedEvent(bool bTimedOut)
 	const TSharedRef<FJsonObject> Event = MakeEvent(TEXT("waited"));
 	Event->SetStringField(TEXT("state"), GetStateName());
 	Event->SetBoolField(TEXT("timed_out"), bTimedOut);
+	WriteJsonLine(Event);
+}
+
+void WriteTransactionsEvent()
+{
+	const UTransactor& Buffer = *GEditor->Trans;
+	TArray<TSharedPtr<FJsonValue>> Titles;
+	for (int32 Index = 0; Index < Buffer.GetQueueLength(); ++Index)
+	{
+		Titles.Add(MakeShared<FJsonValueString>(Buffer.GetTransaction(Index)->GetTitle().ToString()));
+	}
+	const TSharedRef<FJsonObject> Event = MakeEvent(TEXT("transactions"));
+	Event->SetArrayField(TEXT("titles"), Titles);
+	Event->SetNumberField(TEXT("undone"), Buffer.GetUndoCount());
 	WriteJsonLine(Event);
 }
 

@@ -11,4 +11,6 @@ void WriteDiffEvent(const FString& Path, const FString& OldContent, const FStrin
 void WriteStateEvent();
 void WriteToolEvent(const FString& Name, const FJsonObject& Result);
 void WriteWaitedEvent(bool bTimedOut);
+/** The undo buffer: the titles from the oldest on, and how many of them are undone. */
+void WriteTransactionsEvent();
 void WriteErrorEvent(const FString& Message);

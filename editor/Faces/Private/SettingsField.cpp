@@ -57,12 +57,13 @@ bool SetSettingsField(const FString& Name, const FJsonValue& Value, bool bSave, 
 	FString Kept;
 	Property->ExportTextItem_Direct(Kept, Field, nullptr, Settings, PPF_None);
 	FString Text;
-	const TCHAR* const End =
-		ToPropertyText(Value, Text) && IsOfType(Value, *Property) ? Property->ImportText_Direct(*Text, Field, Settings, PPF_None) : nullptr;
+	const TCHAR* const End = ToPropertyText(Value, Text) && IsOfType(Value, *Property)
+		? Property->ImportText_Direct(*Text, Field, Settings, PPF_None, nullptr)
+		: nullptr;
 	if (!End || *End)
 	{
 		// A list may have been read in part.
-		Property->ImportText_Direct(*Kept, Field, Settings, PPF_None);
+		Property->ImportText_Direct(*Kept, Field, Settings, PPF_None, nullptr);
 		OutError = FString::Printf(TEXT("The field '%s' can't be set to '%s'."), *Name, *Text);
 		return false;
 	}

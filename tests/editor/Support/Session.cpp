@@ -23,6 +23,7 @@ const std::vector<std::pair<std::string, std::vector<std::string>>> EventFields 
 			"can_redo", "pending_tools", "tool_results" } },
 	{ "tool", { "name", "id", "content", "is_error" } },
 	{ "waited", { "state", "timed_out" } },
+	{ "transactions", { "titles", "undone" } },
 	{ "error", { "message" } },
 };
 
