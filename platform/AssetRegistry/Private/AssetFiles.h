@@ -1,9 +1,7 @@
 #pragma once
 
 #include "AssetRegistry/AssetData.h"
-#include "GenericPlatform/GenericPlatformFile.h"
-
-#include <map>
+#include "Misc/DateTime.h"
 
 /** What the files of the content folders hold. */
 class FAssetFiles
@@ -12,11 +10,11 @@ public:
 	/** A file as it was when it was read; one that could not be read has no assets. */
 	struct FFile
 	{
+		FString Path;
 		FDateTime ModificationTime;
 		int64 Size = -1;
 		TArray<FAssetData> Assets;
 	};
-	using FFiles = std::map<FString, FFile>;
 
 	/** What a look at the folders has found. */
 	struct FChanges
@@ -28,12 +26,11 @@ public:
 
 	/** Reads the files that are new or changed since the last look, and forgets those that are gone. */
 	FChanges Update(bool bForceRescan = false);
-	/** By path. */
-	const FFiles& GetFiles() const { return Files; }
+	/** In the order of the walk: a folder's files by name, then its folders. */
+	const TArray<FFile>& GetFiles() const { return Files; }
 
 private:
-	void Visit(const FString& Directory, FFiles& Found, bool bForceRescan, FChanges& Changes);
-	void VisitFile(const FString& Path, FFiles& Found, bool bForceRescan, FChanges& Changes);
+	class FWalk;
 
-	FFiles Files;
+	TArray<FFile> Files;
 };

@@ -8,11 +8,12 @@ namespace
 {
 IAssetRegistry* Current = nullptr;
 
-/** The asset in memory that stands at a path, or null. */
-UObject* FindInMemory(const FAssetData& Asset)
+/** The asset in memory that stands at a path, when it may differ from what is in its file; otherwise null. */
+UObject* FindChanged(const FAssetData& Asset)
 {
 	UPackage* const Package = static_cast<UPackage*>(StaticFindObjectFast(UPackage::StaticClass(), nullptr, Asset.PackageName));
-	UObject* const Object = Package ? StaticFindObjectFast(UObject::StaticClass(), Package, Asset.AssetName) : nullptr;
+	UObject* const Object =
+		Package && Package->IsDirty() ? StaticFindObjectFast(UObject::StaticClass(), Package, Asset.AssetName) : nullptr;
 	return Object && Object->IsAsset() ? Object : nullptr;
 }
 
@@ -84,17 +85,20 @@ void FAssetRegistry::Update(bool bForceRescan) const
 bool FAssetRegistry::Gather(TArray<FAssetData>& OutAssetData, bool bOnlyOnDisk, TFunctionRef<bool(const FAssetData&)> Fits) const
 {
 	Update();
-	std::map<FString, FAssetData> Found;
-	for (const auto& [Path, File] : Files.GetFiles())
+	TArray<TPair<FString, FAssetData>> Found;
+	const auto Consider = [&](FAssetData Data)
+	{
+		if (Fits(Data))
+		{
+			Found.Add({ Data.GetObjectPathString(), MoveTemp(Data) });
+		}
+	};
+	for (const FAssetFiles::FFile& File : Files.GetFiles())
 	{
 		for (const FAssetData& Asset : File.Assets)
 		{
-			const UObject* const Object = bOnlyOnDisk ? nullptr : FindInMemory(Asset);
-			FAssetData Data = Object ? FAssetData(Object) : Asset;
-			if (Fits(Data))
-			{
-				Found.emplace(Data.GetObjectPathString(), MoveTemp(Data));
-			}
+			const UObject* const Object = bOnlyOnDisk ? nullptr : FindChanged(Asset);
+			Consider(Object ? FAssetData(Object) : Asset);
 		}
 	}
 	Created.RemoveAll([](const TWeakObjectPtr<UObject>& Each) { return !Each.IsValid(); });
@@ -102,18 +106,19 @@ bool FAssetRegistry::Gather(TArray<FAssetData>& OutAssetData, bool bOnlyOnDisk, 
 	{
 		if (!bOnlyOnDisk && Each->IsAsset())
 		{
-			FAssetData Data(Each.Get());
-			if (Fits(Data))
-			{
-				Found.emplace(Data.GetObjectPathString(), MoveTemp(Data));
-			}
+			Consider(FAssetData(Each.Get()));
 		}
 	}
-	for (auto& [Path, Data] : Found)
+	Found.StableSort([](const auto& A, const auto& B) { return A.Key < B.Key; });
+	for (int32 Index = 0; Index < Found.Num(); ++Index)
 	{
-		OutAssetData.Add(MoveTemp(Data));
+		// One that was made in memory may have a file by now.
+		if (Index == 0 || Found[Index].Key != Found[Index - 1].Key)
+		{
+			OutAssetData.Add(MoveTemp(Found[Index].Value));
+		}
 	}
-	return !Found.empty();
+	return !Found.IsEmpty();
 }
 
 bool FAssetRegistry::GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses) const

@@ -20,11 +20,12 @@ TArray<FRoot> GetRoots()
 	return { { TEXT("/Game/"), FPaths::ProjectContentDir() }, { TEXT("/Engine/"), FPaths::EngineDir() + TEXT("Content/") } };
 }
 
-bool FailWith(FText* OutReason, const FString& Reason)
+/** Most callers want no reason, so it is put together only for those that do. */
+bool FailWith(FText* OutReason, const FString& Name, const TCHAR* What)
 {
 	if (OutReason)
 	{
-		*OutReason = FText::FromString(Reason);
+		*OutReason = FText::FromString(TEXT("Input '") + Name.Left(MaxLength) + TEXT("' ") + What);
 	}
 	return false;
 }
@@ -112,28 +113,27 @@ bool FPackageName::TryConvertFilenameToLongPackageName(const FString& Filename, 
 
 bool FPackageName::IsValidLongPackageName(const FString& LongPackageName, bool bIncludeReadOnlyRoots, FText* OutReason)
 {
-	const FString Input = TEXT("Input '") + LongPackageName.Left(MaxLength) + TEXT("' ");
 	if (LongPackageName.Len() < 4 || LongPackageName.Len() > MaxLength)
 	{
-		return FailWith(OutReason, Input + TEXT("contains fewer or more characters than a package's name may have."));
+		return FailWith(OutReason, LongPackageName, TEXT("contains fewer or more characters than a package's name may have."));
 	}
 	if (LongPackageName[0] != '/')
 	{
-		return FailWith(OutReason, Input + TEXT("does not start with a '/'."));
+		return FailWith(OutReason, LongPackageName, TEXT("does not start with a '/'."));
 	}
-	if (LongPackageName.EndsWith(TEXT("/")) || LongPackageName.Contains(TEXT("//")))
+	if (LongPackageName.EndsWith(TEXT("/")) || LongPackageName.View().find(u"//") != std::u16string_view::npos)
 	{
-		return FailWith(OutReason, Input + TEXT("has an empty part."));
+		return FailWith(OutReason, LongPackageName, TEXT("has an empty part."));
 	}
 	const SIZE_T Invalid = LongPackageName.View().find_first_of(InvalidCharacters);
 	if (Invalid != std::u16string_view::npos)
 	{
-		return FailWith(OutReason,
-			Input + TEXT("contains the invalid character '") + FString::Chr(LongPackageName[static_cast<int32>(Invalid)]) + TEXT("'."));
+		const FString Found = FString::Chr(LongPackageName[static_cast<int32>(Invalid)]);
+		return FailWith(OutReason, LongPackageName, *(TEXT("contains the invalid character '") + Found + TEXT("'.")));
 	}
 	const bool bRooted = (bIncludeReadOnlyRoots && IsScriptPackage(LongPackageName)) || LongPackageName.StartsWith(TEXT("/Game/")) ||
 		LongPackageName.StartsWith(TEXT("/Engine/"));
-	return bRooted || FailWith(OutReason, Input + TEXT("does not start with a root that packages can have."));
+	return bRooted || FailWith(OutReason, LongPackageName, TEXT("does not start with a root that packages can have."));
 }
 
 bool FPackageName::DoesPackageExist(const FString& LongPackageName, FString* OutFilename)
