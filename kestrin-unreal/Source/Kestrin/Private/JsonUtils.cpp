@@ -39,3 +39,11 @@ FString ToJsonString(const FString& Text)
 	const FString Document = ToCondensedJson({ MakeShared<FJsonValueString>(Text) });
 	return Document.Mid(1, Document.Len() - 2);
 }
+
+void SetArrayUnlessEmpty(FJsonObject& Object, const TCHAR* Key, const TArray<TSharedPtr<FJsonValue>>& Values)
+{
+	if (!Values.IsEmpty())
+	{
+		Object.SetArrayField(Key, Values);
+	}
+}

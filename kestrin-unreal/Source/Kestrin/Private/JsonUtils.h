@@ -9,3 +9,5 @@ FString ToCondensedJson(const TSharedRef<FJsonObject>& Object);
 FString ToCondensedJson(const TArray<TSharedPtr<FJsonValue>>& Array);
 /** A text as a JSON string, with its quotation marks. */
 FString ToJsonString(const FString& Text);
+/** Leaves the key out for an empty array. */
+void SetArrayUnlessEmpty(FJsonObject& Object, const TCHAR* Key, const TArray<TSharedPtr<FJsonValue>>& Values);

@@ -12,6 +12,7 @@
 #include "BehaviorTree/Decorators/BTDecorator_BlueprintBase.h"
 #include "BehaviorTree/Services/BTService_BlueprintBase.h"
 #include "BehaviorTree/Tasks/BTTask_BlueprintBase.h"
+#include "JsonUtils.h"
 
 struct FKestrinBlueprintUtils::FBehaviorTreeReader
 {
@@ -35,7 +36,7 @@ struct FKestrinBlueprintUtils::FBehaviorTreeReader
 	{
 		const TSharedPtr<FJsonObject> Json = ReadNode(Composite);
 		Json->SetStringField(TEXT("NodeType"), TEXT("Composite"));
-		SetUnlessEmpty(*Json, TEXT("AuxiliaryNodes"), ReadAuxiliaryNodes(Composite));
+		SetArrayUnlessEmpty(*Json, TEXT("AuxiliaryNodes"), ReadAuxiliaryNodes(Composite));
 		FValues Children;
 		for (const FBTCompositeChild& Child : Composite.Children)
 		{
@@ -48,19 +49,11 @@ struct FKestrinBlueprintUtils::FBehaviorTreeReader
 				AddNode(Children, Child.ChildTask);
 			}
 		}
-		SetUnlessEmpty(*Json, TEXT("Children"), Children);
+		SetArrayUnlessEmpty(*Json, TEXT("Children"), Children);
 		return Json;
 	}
 
 private:
-	static void SetUnlessEmpty(FJsonObject& Json, const TCHAR* Key, const FValues& Values)
-	{
-		if (!Values.IsEmpty())
-		{
-			Json.SetArrayField(Key, Values);
-		}
-	}
-
 	static void AddNode(FValues& Values, UBTNode* Node)
 	{
 		if (Node)

@@ -4,6 +4,7 @@
 #include "Engine/Blueprint.h"
 #include "Engine/BlueprintGeneratedClass.h"
 #include "GameFramework/Actor.h"
+#include "JsonUtils.h"
 #include "UObject/Interface.h"
 #include "UObject/UnrealType.h"
 
@@ -24,22 +25,14 @@ struct FKestrinBlueprintUtils::FBlueprintReader
 		Document->SetStringField(TEXT("Path"), Blueprint.GetPathName());
 		Document->SetStringField(TEXT("SuperClass"), Class.GetSuperClass()->GetName());
 		Document->SetObjectField(TEXT("Variables"), ReadProperties(&Class, Class.GetDefaultObject()));
-		SetUnlessEmpty(*Document, TEXT("Functions"), ReadFunctions());
-		SetUnlessEmpty(*Document, TEXT("Components"), ReadComponents());
-		SetUnlessEmpty(*Document, TEXT("Interfaces"), ReadInterfaces());
+		SetArrayUnlessEmpty(*Document, TEXT("Functions"), ReadFunctions());
+		SetArrayUnlessEmpty(*Document, TEXT("Components"), ReadComponents());
+		SetArrayUnlessEmpty(*Document, TEXT("Interfaces"), ReadInterfaces());
 		Document->SetArrayField(TEXT("Graphs"), ReadGraphs(Blueprint.UbergraphPages));
 		return Document;
 	}
 
 private:
-	static void SetUnlessEmpty(FJsonObject& Document, const TCHAR* Key, const FValues& Values)
-	{
-		if (!Values.IsEmpty())
-		{
-			Document.SetArrayField(Key, Values);
-		}
-	}
-
 	FValues ReadFunctions() const
 	{
 		FValues Functions;
@@ -76,8 +69,8 @@ private:
 				Params.Add(MakeShared<FJsonValueObject>(ReadParameter(Property->GetName(), *Property)));
 			}
 		}
-		SetUnlessEmpty(*Json, TEXT("InParams"), InParams);
-		SetUnlessEmpty(*Json, TEXT("OutParams"), OutParams);
+		SetArrayUnlessEmpty(*Json, TEXT("InParams"), InParams);
+		SetArrayUnlessEmpty(*Json, TEXT("OutParams"), OutParams);
 		if (const UEdGraph* const Graph = FindFunctionGraph(Function.GetName()))
 		{
 			Json->SetObjectField(TEXT("EdGraph"), ReadEdGraph(Graph));
