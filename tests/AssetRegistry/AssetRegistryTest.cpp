@@ -114,6 +114,46 @@ TEST_F(AssetRegistry, KnowsWhatIsOnlyInMemoryAndPrefersIt)
 	EXPECT_EQ(List(), Paths());
 }
 
+TEST_F(AssetRegistry, KeepsWhatWasNotSavedWhenItsFileGoes)
+{
+	UTestPart* const Changed = Save<UTestPart>(TEXT("Changed"));
+	UTestPart* const Unchanged = Save<UTestPart>(TEXT("Unchanged"));
+	ASSERT_EQ(List().Num(), 2);
+	Changed->MarkPackageDirty();
+	std::filesystem::remove(Directory.Native("Content/Changed.uasset"));
+	std::filesystem::remove(Directory.Native("Content/Unchanged.uasset"));
+	EXPECT_EQ(List(), Paths{ TEXT("/Game/Changed.Changed") });
+	EXPECT_TRUE(IsValid(Unchanged));
+}
+
+TEST_F(AssetRegistry, SeesEveryChangeBetweenTwoQuestions)
+{
+	EXPECT_EQ(List(), Paths()) << "there is no folder yet";
+	Save<UTestPart>(TEXT("One"));
+	Forget();
+	EXPECT_EQ(List(), Paths{ TEXT("/Game/One.One") });
+	const struct
+	{
+		const char* From;
+		const char* To;
+		Paths Expected;
+	} Moves[] = {
+		{ "Content/One.uasset", "Content/A/B/One.uasset", { TEXT("/Game/A/B/One.One") } },
+		{ "Content/A", "Content/C", { TEXT("/Game/C/B/One.One") } },
+		{ "Content/C", "Elsewhere", {} },
+		{ "Elsewhere", "Content/C", { TEXT("/Game/C/B/One.One") } },
+		{ "Content/C/B/One.uasset", "Content/One.uasset", { TEXT("/Game/One.One") } },
+		{ "Content", "Elsewhere", {} },
+		{ "Elsewhere", "Content", { TEXT("/Game/One.One") } },
+	};
+	for (const auto& Move : Moves)
+	{
+		std::filesystem::create_directories(Directory.Native(Move.To).parent_path());
+		std::filesystem::rename(Directory.Native(Move.From), Directory.Native(Move.To));
+		EXPECT_EQ(List(), Move.Expected) << Move.From << " to " << Move.To;
+	}
+}
+
 TEST_F(AssetRegistry, RefusesAssetsThatCanNotBe)
 {
 	IAssetTools& Tools = FModuleManager::LoadModuleChecked<FAssetToolsModule>(TEXT("AssetTools")).Get();

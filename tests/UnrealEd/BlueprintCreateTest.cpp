@@ -44,7 +44,7 @@ TEST_F(Blueprints, AFactoryRefusesWhatNoBlueprintCanDeriveFrom)
 	const TPair<UClass*, bool> Cases[] = {
 		{ AActor::StaticClass(), true },
 		{ Parent->GeneratedClass, true },
-		{ Parent->SkeletonGeneratedClass, false },
+		{ FUtils::GetSkeletonClass(Parent), false },
 		{ UPackage::StaticClass(), false },
 		{ UEdGraph::StaticClass(), false },
 		{ nullptr, false },

@@ -63,7 +63,7 @@ TEST_F(Blueprints, WhatUsesAVariableOrFunctionFollowsItsNameAndType)
 	UK2Node_VariableGet* const Get = GetDefault<FSchema>()->SpawnVariableGetNode(FVector2D(), Graph, TEXT("Health"), nullptr);
 	FGraphNodeCreator<UK2Node_CallFunction> Creator(*Graph);
 	UK2Node_CallFunction* const Call = Creator.CreateNode();
-	Call->SetFromFunction(Blueprint->SkeletonGeneratedClass->FindFunctionByName(TEXT("Open")));
+	Call->SetFromFunction(FUtils::GetSkeletonClass(Blueprint)->FindFunctionByName(TEXT("Open")));
 	Creator.Finalize();
 	Compile(Blueprint);
 	Set(Defaults(Blueprint), TEXT("Health"), TEXT("8"));
@@ -191,6 +191,7 @@ TEST_F(Blueprints, UndoBeforeTheFirstSkeletonAndOfTheBlueprintItself)
 	{
 		const FScopedTransaction Transaction(FText::FromString(TEXT("add")));
 		AddInt(Blueprint, TEXT("Added"), TEXT("3"));
+		EXPECT_TRUE(FUtils::GetSkeletonClass(Blueprint));
 	};
 	AddInTransaction();
 	EXPECT_TRUE(GEditor->UndoTransaction());

@@ -3,8 +3,10 @@
 #include "Engine/TimelineTemplate.h"
 #include "Components/SceneComponent.h"
 #include "HAL/FileManager.h"
+#include "Editor/Transactor.h"
 #include "K2Node_CustomEvent.h"
 #include "K2Node_Variable.h"
+#include "GameFramework/Pawn.h"
 
 namespace
 {
@@ -77,22 +79,128 @@ TEST_F(Blueprints, AreReadFromTheirFilesAsTheyWereWithoutACompile)
 	EXPECT_EQ(Child->Status, BS_UpToDate);
 	EXPECT_FALSE(Child->GetPackage()->IsDirty());
 	EXPECT_FALSE(Child->SkeletonGeneratedClass);
+	EXPECT_FALSE(Log.HasLineWith(TEXT("does not match")));
 	EXPECT_EQ(Compile(Child), BS_UpToDate);
 	EXPECT_EQ(Describe(Child), Before) << "and the compile changes nothing";
 	EXPECT_EQ(Value(Child, TEXT("Health")), TEXT("50"));
 }
 
-TEST_F(Blueprints, OneThatWasSavedBeforeItsCompileWantsOne)
+namespace
+{
+using FUtils = FBlueprintEditorUtils;
+using FSchema = UEdGraphSchema_K2;
+
+/** Changes of a Blueprint with the variable Health and the function Open that its class does not know of. */
+struct FChange
+{
+	const TCHAR* Name;
+	void (*Make)(UBlueprint*);
+};
+
+FEdGraphPinType TypeOf(FName Category)
+{
+	return { Category, FName(), nullptr, EPinContainerType::None, false, FEdGraphTerminalType() };
+}
+
+const FChange Changes[] = {
+	{ TEXT("Added"), [](UBlueprint* Blueprint) { FUtils::AddMemberVariable(Blueprint, TEXT("Late"), TypeOf(FSchema::PC_Int), TEXT("5")); } },
+	{ TEXT("Removed"), [](UBlueprint* Blueprint) { FUtils::RemoveMemberVariable(Blueprint, TEXT("Health")); } },
+	{ TEXT("Retyped"),
+		[](UBlueprint* Blueprint) { FUtils::ChangeMemberVariableType(Blueprint, TEXT("Health"), TypeOf(FSchema::PC_String)); } },
+	{ TEXT("Flagged"), [](UBlueprint* Blueprint) { FUtils::SetVariableSaveGameFlag(Blueprint, TEXT("Health"), true); } },
+	{ TEXT("Valued"), [](UBlueprint* Blueprint) { Blueprint->NewVariables[0].DefaultValue = TEXT("7"); } },
+	{ TEXT("Parameter"),
+		[](UBlueprint* Blueprint)
+		{
+	TArray<UK2Node_FunctionEntry*> Entries;
+	FUtils::GetAllNodesOfClass(Blueprint, Entries);
+	Entries.Last()->CreateUserDefinedPin(TEXT("Speed"), TypeOf(FSchema::PC_Name), EGPD_Output);
+} },
+	{ TEXT("Component"),
+		[](UBlueprint* Blueprint)
+		{
+	USimpleConstructionScript* const Script = Blueprint->SimpleConstructionScript;
+	Script->AddNode(Script->CreateNode(USceneComponent::StaticClass(), TEXT("Lamp")));
+} },
+	{ TEXT("Timeline"), [](UBlueprint* Blueprint) { FUtils::AddNewTimeline(Blueprint, TEXT("Fade")); } },
+	{ TEXT("Reparented"), [](UBlueprint* Blueprint) { Blueprint->ParentClass = APawn::StaticClass(); } },
+};
+}
+
+TEST_F(Blueprints, OnesThatWereSavedBeforeTheirCompileAreCompiledAsTheyAreLoaded)
+{
+	TMap<FString, FString> Compiled;
+	for (const FChange& Change : Changes)
+	{
+		UBlueprint* const Blueprint = Make(Change.Name);
+		AddInt(Blueprint, TEXT("Health"), TEXT("5"));
+		AddFunction(Blueprint, TEXT("Open"));
+		EXPECT_EQ(Compile(Blueprint), BS_UpToDate);
+		Change.Make(Blueprint);
+		ASSERT_TRUE(Save(Blueprint));
+		Compile(Blueprint);
+		Compiled.Add(Change.Name, Describe(Blueprint));
+	}
+	CollectGarbage(RF_NoFlags);
+	Log.Lines.Empty();
+	GEditor->BeginTransaction(TEXT(""), FText::FromString(TEXT("Looking")), nullptr);
+	for (const FChange& Change : Changes)
+	{
+		const FString Name(Change.Name);
+		UBlueprint* const Loaded = LoadObject<UBlueprint>(nullptr, *(TEXT("/Game/") + Name));
+		ASSERT_TRUE(Loaded);
+		EXPECT_EQ(Describe(Loaded), Compiled[Name]) << TCHAR_TO_UTF8(Change.Name);
+		EXPECT_TRUE(Log.HasLineWith(*(TEXT("LogBlueprint|Log|/Game/") + Name))) << TCHAR_TO_UTF8(Change.Name);
+		EXPECT_EQ(Loaded->Status, BS_UpToDate) << TCHAR_TO_UTF8(Change.Name);
+		EXPECT_FALSE(Loaded->GetPackage()->IsDirty()) << TCHAR_TO_UTF8(Change.Name);
+	}
+	GEditor->EndTransaction();
+	EXPECT_EQ(GEditor->Trans->GetQueueLength(), 0) << "a transaction that recorded nothing is not kept";
+}
+
+TEST_F(Blueprints, AChildIsCompiledAsItIsLoadedWhenItsParentHasChanged)
+{
+	{
+		UBlueprint* const Parent = Make(TEXT("NewParent"));
+		UBlueprint* const Child = Make(TEXT("OldChild"), Parent->GeneratedClass);
+		AddInt(Child, TEXT("Rage"), TEXT("6"));
+		Compile(Child);
+		ASSERT_TRUE(Save(Child));
+		AddInt(Parent, TEXT("Health"), TEXT("5"));
+		ASSERT_TRUE(Save(Parent));
+	}
+	const auto Reload = [this]
+	{
+		CollectGarbage(RF_NoFlags);
+		Log.Lines.Empty();
+		return LoadObject<UBlueprint>(nullptr, TEXT("/Game/OldChild.OldChild"));
+	};
+	{
+		UBlueprint* const Child = Reload();
+		EXPECT_EQ(Value(Child, TEXT("Health")), TEXT("5")) << "the parent was saved before its compile";
+		EXPECT_EQ(Value(Child, TEXT("Rage")), TEXT("6"));
+		EXPECT_EQ(Child->Status, BS_UpToDate);
+		UBlueprint* const Parent = UBlueprint::GetBlueprintFromClass(Child->ParentClass);
+		FUtils::RenameMemberVariable(Parent, TEXT("Health"), TEXT("Rage"));
+		Compile(Parent);
+		ASSERT_TRUE(Save(Parent));
+	}
+	UBlueprint* const Child = Reload();
+	EXPECT_EQ(Child->Status, BS_Error);
+	EXPECT_TRUE(Log.HasLineWith(TEXT("The name of the variable Rage is taken")));
+	EXPECT_FALSE(Child->GetPackage()->IsDirty());
+}
+
+TEST_F(Blueprints, WithoutCompileOnLoadOneKeepsTheClassOfItsFile)
 {
 	UBlueprint* const Blueprint = Make(TEXT("Stale"));
 	AddInt(Blueprint, TEXT("Late"), TEXT("5"));
 	ASSERT_TRUE(Save(Blueprint));
 	CollectGarbage(RF_NoFlags);
-	UBlueprint* const Loaded = LoadObject<UBlueprint>(nullptr, TEXT("/Game/Stale.Stale"));
-	ASSERT_TRUE(Loaded);
-	EXPECT_EQ(Loaded->Status, BS_Dirty);
-	EXPECT_EQ(Compile(Loaded), BS_UpToDate);
-	EXPECT_EQ(Value(Loaded, TEXT("Late")), TEXT("5"));
+	ASSERT_TRUE(LoadPackage(nullptr, TEXT("/Game/Stale"), LOAD_DisableCompileOnLoad));
+	UBlueprint* const Loaded = FindObject<UBlueprint>(nullptr, TEXT("/Game/Stale.Stale"));
+	EXPECT_EQ(Loaded->Status, BS_Unknown);
+	EXPECT_EQ(Value(Loaded, TEXT("Late")), TEXT("-"));
 }
 
 TEST_F(Blueprints, AChildWhoseParentIsGoneIsLoadedWithAnError)

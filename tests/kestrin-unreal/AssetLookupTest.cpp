@@ -29,7 +29,6 @@ protected:
 };
 
 const std::string Door = "/Game/A/BP_Door.BP_Door";
-const std::string OtherDoor = "/Game/B/bp_door.bp_door";
 const std::string Key = "/Game/B/BP_Key.BP_Key";
 const std::string Guard = "/Game/B/BT_Guard.BT_Guard";
 }
@@ -67,16 +66,6 @@ TEST_F(AssetLookup, GoesByWholeShortNamesIgnoringCase)
 		EXPECT_EQ(PathOf(FAccess::FindBehaviorTree(Case.Name)), Case.Tree);
 	}
 	EXPECT_EQ(PathOf(FAccess::FindClass(TEXT("BP_Key_C"))), Key + "_C") << "by now it is a class in memory";
-}
-
-TEST_F(AssetLookup, OfAFileThatIsGoneOrForeignFindsTheNextOne)
-{
-	std::filesystem::remove(Project.Folder() / "Content/A/BP_Door.uasset");
-	EXPECT_EQ(PathOf(FAccess::FindBlueprint(TEXT("BP_Door"))), OtherDoor);
-	Project.Write("Content/B/bp_door.uasset", "this is the text of something else entirely, and no package at all");
-	Forget();
-	EXPECT_EQ(PathOf(FAccess::FindBlueprint(TEXT("BP_Door"))), "none");
-	EXPECT_EQ(PathOf(FAccess::FindClass(TEXT("BP_Door"))), "none");
 }
 
 TEST_F(AssetLookup, OfAnAssetThatDoesNotLoadGivesNoOtherOne)

@@ -170,3 +170,29 @@ TEST_F(BehaviorTreeReader, LeavesOutWhatATreeHasNot)
 	EXPECT_EQ(SaveAndRead(), Head + "}");
 	EXPECT_EQ(ToUtf8(FKestrinBlueprintUtils::ReadBehaviorTree(TEXT("BT_None"))), R"({"Error":"BehaviorTree 'BT_None' not found."})");
 }
+
+TEST_F(BehaviorTreeReader, RefusesATreeThatIsNone)
+{
+	const auto Grow = [this](int32 Levels)
+	{
+		UBTCompositeNode* Last = Tree->RootNode = Make<UBTComposite_Sequence>(nullptr, TEXT(""));
+		for (int32 Level = 1; Level < Levels; ++Level)
+		{
+			UBTCompositeNode* const Next = Make<UBTComposite_Sequence>(Last, TEXT(""));
+			Add(Last, Next, nullptr);
+			Last = Next;
+		}
+		return Last;
+	};
+	const std::string Refusal = R"({"Error":"BehaviorTree 'bt_GUARD' can't be read: it has more than 1000 levels, or a node twice."})";
+	const auto Read = [] { return ToUtf8(FKestrinBlueprintUtils::ReadBehaviorTree(TEXT("bt_GUARD"))); };
+	EXPECT_TRUE(SaveAsset(Tree));
+	Grow(1000);
+	EXPECT_TRUE(Read().starts_with(Head));
+	Grow(10000);
+	EXPECT_EQ(Read(), Refusal);
+	Add(Grow(2), Tree->RootNode, nullptr);
+	EXPECT_EQ(Read(), Refusal);
+	Grow(10000);
+	EXPECT_EQ(SaveAndRead(), Refusal);
+}

@@ -52,7 +52,6 @@ TEST(PropertyValue, IsTheEnginesText)
 	}
 	Expect(*Object, "Smart", None);
 	Expect(*Object, "Text", "");
-	Expect(*Object, "Numbers", "()");
 	Expect(*Object, "Item", R"((Count=1,Label="",Tags=(),Owner=None))");
 
 	UTestKinds* const Friend = NewObject<UTestKinds>(GetTransientPackage(), TEXT("Friend"));
@@ -61,24 +60,15 @@ TEST(PropertyValue, IsTheEnginesText)
 	Kinds->Class = AActor::StaticClass();
 	FProperty* const Soft = Find(*Kinds, "Soft");
 	Soft->ImportText_InContainer(TEXT("/Game/Doors/Not.Loaded"), Kinds, Kinds, PPF_None);
-	Kinds->Counts.Add(TEXT("a"), 1);
 	Kinds->Place = FVector(1.0, 2.5, -3.0);
 	Object->Smart = Smart;
 	Object->Text = TEXT("a \"b\"");
-	Object->Real = 1.0f;
-	Object->Numbers = { 1, 2 };
-	Object->Mode = ETestMode::VeryFast;
 	Expect(*Kinds, "Weak", "/Script/TestObjects.TestKinds'" + ToUtf8(Friend->GetPathName()) + "'");
 	Expect(*Kinds, "Class", "/Script/CoreUObject.Class'/Script/Engine.Actor'");
 	Expect(*Kinds, "Soft", "/Game/Doors/Not.Loaded");
-	Expect(*Kinds, "Counts", R"((("a", 1)))");
 	Expect(*Kinds, "Place", "(X=1.000000,Y=2.500000,Z=-3.000000)");
 	Expect(*Object, "Smart", "/Script/TestObjects.TestObject'" + ToUtf8(Smart->GetPathName()) + "'");
 	Expect(*Object, "Text", "a \"b\"");
-	Expect(*Object, "Real", "1.000000");
-	Expect(*Object, "Numbers", "(1,2)");
-	Expect(*Object, "Mode", "VeryFast");
-	Expect(*Object, "bWhole", "True");
 }
 
 TEST(PropertyValue, IsLeftOutByItsFlagsAndInvalidWithoutAPlace)

@@ -5,6 +5,8 @@
 #include "Misc/Paths.h"
 #include "UObject/PackageReader.h"
 
+#include <algorithm>
+
 DEFINE_LOG_CATEGORY_STATIC(LogAssetRegistry, Log, All);
 
 namespace
@@ -14,23 +16,10 @@ bool IsPackageFile(const FString& Path)
 	return Path.EndsWith(FPackageName::GetAssetPackageExtension()) || Path.EndsWith(FPackageName::GetMapPackageExtension());
 }
 
-/** @param Folder that of the package, as in "/Game/Doors" */
-TArray<FAssetData> ReadAssets(const FString& Path, const FString& Folder)
+/** File systems stamp changes with a clock that ticks every few milliseconds: two changes in one tick look alike. */
+bool IsSettled(const FDateTime& ModificationTime)
 {
-	const FString PackageName = Folder / FPaths::GetBaseFilename(Path);
-	TArray<FAssetData> Assets;
-	FString Error;
-	FText Reason;
-	if (!FPackageName::IsValidLongPackageName(PackageName, false, &Reason))
-	{
-		Error = Reason.ToString();
-	}
-	else if (FPackageReader::ReadAssets(Path, FName(PackageName), Assets, Error))
-	{
-		return Assets;
-	}
-	UE_LOG(LogAssetRegistry, Warning, TEXT("%s holds no assets: %s"), *Path, *Error);
-	return {};
+	return FDateTime::UtcNow() - ModificationTime > FTimespan::FromSeconds(0.1);
 }
 }
 
@@ -38,8 +27,9 @@ TArray<FAssetData> ReadAssets(const FString& Path, const FString& Folder)
 class FAssetFiles::FWalk
 {
 public:
-	FWalk(TArray<FFile>& InKnown, bool bInForceRescan)
+	FWalk(TArray<FFile>& InKnown, FFolderWatch& InWatch, bool bInForceRescan)
 		: Known(InKnown)
+		, Watch(InWatch)
 		, bForceRescan(bInForceRescan)
 	{
 		bSeen.SetNum(Known.Num());
@@ -48,6 +38,7 @@ public:
 	/** @param Folder that of the packages in the directory, as in "/Game/Doors" */
 	void Visit(const FString& Directory, const FString& Folder)
 	{
+		Watch.Add(Directory);
 		TArray<FString> Directories;
 		FPlatformFileManager::Get().GetPlatformFile().IterateDirectory(*Directory,
 			[&](const TCHAR* Path, bool bIsDirectory)
@@ -86,15 +77,18 @@ public:
 private:
 	void VisitFile(const FString& Path, const FString& Folder)
 	{
-		const FFileStatData Stat = FPlatformFileManager::Get().GetPlatformFile().GetStatData(*Path);
 		FFile* const Before = FindKnown(Path);
-		if (Before && !bForceRescan && Before->ModificationTime == Stat.ModificationTime && Before->Size == Stat.FileSize)
+		if (Before && Before->bSettled && !bForceRescan && Before->IsUnchanged())
 		{
 			Found.Add(MoveTemp(*Before));
 			return;
 		}
-		const TArray<FAssetData> Old = Before ? Before->Assets : TArray<FAssetData>();
-		const FFile& File = Found.Add_GetRef({ Path, Stat.ModificationTime, Stat.FileSize, ReadAssets(Path, Folder) });
+		const TArray<FAssetData> Old = Before ? MoveTemp(Before->Assets) : TArray<FAssetData>();
+		const FFile& File = Found.Add_GetRef(Read(Path, Folder));
+		if (!File.Error.IsEmpty() && !(Before && Before->Error == File.Error && Before->IsUnchanged()))
+		{
+			UE_LOG(LogAssetRegistry, Warning, TEXT("%s holds no assets: %s"), *Path, *File.Error);
+		}
 		for (const FAssetData& Asset : File.Assets)
 		{
 			(Old.Contains(Asset) ? Changes.Updated : Changes.Added).Add(Asset);
@@ -106,6 +100,25 @@ private:
 				Changes.Removed.Add(Asset);
 			}
 		}
+	}
+
+	static FFile Read(const FString& Path, const FString& Folder)
+	{
+		IPlatformFile& Files = FPlatformFileManager::Get().GetPlatformFile();
+		const TUniquePtr<IFileHandle> Handle = Files.OpenRead(*Path);
+		const FFileStatData Stat = Handle ? Handle->GetStatData() : Files.GetStatData(*Path);
+		FFile File{ Path, Stat.ModificationTime, Stat.FileSize, IsSettled(Stat.ModificationTime), {}, {} };
+		const FString PackageName = Folder / FPaths::GetBaseFilename(Path);
+		FText Reason;
+		if (!FPackageName::IsValidLongPackageName(PackageName, false, &Reason))
+		{
+			File.Error = Reason.ToString();
+		}
+		else if (!FPackageReader::ReadAssets(Handle.Get(), Stat.FileSize, FName(PackageName), File.Assets, File.Error))
+		{
+			File.Assets.Empty();
+		}
+		return File;
 	}
 
 	/** Files mostly come in the order of the last walk, so the search goes on from the last one. */
@@ -124,17 +137,52 @@ private:
 	}
 
 	TArray<FFile>& Known;
+	FFolderWatch& Watch;
 	TArray<bool> bSeen;
 	int32 Next = 0;
 	bool bForceRescan;
 };
 
+bool FAssetFiles::FFile::IsUnchanged() const
+{
+	const FFileStatData Stat = FPlatformFileManager::Get().GetPlatformFile().GetStatData(*Path);
+	return Stat.ModificationTime == ModificationTime && Stat.FileSize == Size;
+}
+
 FAssetFiles::FChanges FAssetFiles::Update(bool bForceRescan)
 {
-	FWalk Walk(Files, bForceRescan);
-	Walk.Visit(FPaths::ProjectContentDir(), TEXT("/Game"));
-	Walk.Visit(FPaths::EngineContentDir(), TEXT("/Engine"));
+	const FString Roots[] = { FPaths::ProjectContentDir(), FPaths::EngineContentDir() };
+	const bool bSameRoots = Roots[0] == ProjectContent && Roots[1] == EngineContent;
+	if (bSameRoots && !bForceRescan && !Watch.MayHaveChanged())
+	{
+		return {};
+	}
+	ProjectContent = Roots[0];
+	EngineContent = Roots[1];
+	Watch.Reset();
+	FWalk Walk(Files, Watch, bForceRescan);
+	Walk.Visit(ProjectContent, TEXT("/Game"));
+	Walk.Visit(EngineContent, TEXT("/Engine"));
 	Walk.NoteRemoved();
 	Files = MoveTemp(Walk.Found);
+	ListAssets();
 	return MoveTemp(Walk.Changes);
+}
+
+void FAssetFiles::ListAssets()
+{
+	Assets.Empty();
+	for (const FFile& File : Files)
+	{
+		for (const FAssetData& Asset : File.Assets)
+		{
+			Assets.Add({ Asset.GetObjectPathString(), Asset });
+		}
+	}
+	const auto IsBefore = [](const FListedAsset& A, const FListedAsset& B) { return A.Path < B.Path; };
+	// As they come they are in order already, unless the case of letters differs.
+	if (!std::is_sorted(Assets.begin(), Assets.end(), IsBefore))
+	{
+		Assets.StableSort(IsBefore);
+	}
 }

@@ -4,6 +4,8 @@
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 
+#include <algorithm>
+
 namespace
 {
 IAssetRegistry* Current = nullptr;
@@ -69,7 +71,18 @@ void FAssetRegistryModule::ShutdownModule()
 
 void FAssetRegistry::Update(bool bForceRescan) const
 {
-	const FAssetFiles::FChanges Changes = Files.Update(bForceRescan);
+	FAssetFiles::FChanges Changes = Files.Update(bForceRescan);
+	// One with changes that were never saved is all that is left of it.
+	Changes.Removed.RemoveAll(
+		[this](const FAssetData& Asset)
+		{
+		UObject* const Object = FindChanged(Asset);
+		if (Object)
+		{
+			Created.AddUnique(TWeakObjectPtr<UObject>(Object));
+		}
+		return Object != nullptr;
+	});
 	const auto Tell = [](const TArray<FAssetData>& Assets, const FAssetEvent& Event)
 	{
 		for (const FAssetData& Asset : Assets)
@@ -85,37 +98,36 @@ void FAssetRegistry::Update(bool bForceRescan) const
 bool FAssetRegistry::Gather(TArray<FAssetData>& OutAssetData, bool bOnlyOnDisk, TFunctionRef<bool(const FAssetData&)> Fits) const
 {
 	Update();
-	TArray<TPair<FString, FAssetData>> Found;
-	const auto Consider = [&](FAssetData Data)
+	TArray<FListedAsset> Found;
+	for (const FListedAsset& Asset : Files.GetAssets())
 	{
+		const UObject* const Object = bOnlyOnDisk ? nullptr : FindChanged(Asset.Data);
+		const FAssetData InMemory(Object);
+		const FAssetData& Data = Object ? InMemory : Asset.Data;
 		if (Fits(Data))
 		{
-			Found.Add({ Data.GetObjectPathString(), MoveTemp(Data) });
-		}
-	};
-	for (const FAssetFiles::FFile& File : Files.GetFiles())
-	{
-		for (const FAssetData& Asset : File.Assets)
-		{
-			const UObject* const Object = bOnlyOnDisk ? nullptr : FindChanged(Asset);
-			Consider(Object ? FAssetData(Object) : Asset);
+			Found.Add({ Asset.Path, Data });
 		}
 	}
+	const int32 NumInFiles = Found.Num();
 	Created.RemoveAll([](const TWeakObjectPtr<UObject>& Each) { return !Each.IsValid(); });
 	for (const TWeakObjectPtr<UObject>& Each : Created)
 	{
-		if (!bOnlyOnDisk && Each->IsAsset())
+		const FAssetData Data(!bOnlyOnDisk && Each->IsAsset() ? Each.Get() : nullptr);
+		if (Data.IsValid() && Fits(Data))
 		{
-			Consider(FAssetData(Each.Get()));
+			Found.Add({ Data.GetObjectPathString(), Data });
 		}
 	}
-	Found.StableSort([](const auto& A, const auto& B) { return A.Key < B.Key; });
+	const auto IsBefore = [](const FListedAsset& A, const FListedAsset& B) { return A.Path < B.Path; };
+	std::stable_sort(Found.begin() + NumInFiles, Found.end(), IsBefore);
+	std::inplace_merge(Found.begin(), Found.begin() + NumInFiles, Found.end(), IsBefore);
 	for (int32 Index = 0; Index < Found.Num(); ++Index)
 	{
 		// One that was made in memory may have a file by now.
-		if (Index == 0 || Found[Index].Key != Found[Index - 1].Key)
+		if (Index == 0 || Found[Index].Path != Found[Index - 1].Path)
 		{
-			OutAssetData.Add(MoveTemp(Found[Index].Value));
+			OutAssetData.Add(MoveTemp(Found[Index].Data));
 		}
 	}
 	return !Found.IsEmpty();
@@ -156,7 +168,7 @@ FAssetData FAssetRegistry::GetAssetByObjectPath(const FSoftObjectPath& ObjectPat
 	return Assets.IsEmpty() ? FAssetData() : Assets[0];
 }
 
-void FAssetRegistry::ScanPathsSynchronous(const TArray<FString>&, bool bForceRescan)
+void FAssetRegistry::ScanPathsSynchronous(const TArray<FString>&, bool bForceRescan, bool)
 {
 	Update(bForceRescan);
 }

@@ -14,7 +14,8 @@ public:
 	bool GetAssets(const FARFilter& Filter, TArray<FAssetData>& OutAssetData) const override;
 	bool GetAllAssets(TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const override;
 	FAssetData GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets) const override;
-	void ScanPathsSynchronous(const TArray<FString>& InPaths, bool bForceRescan) override;
+	bool GetReferencers(FName PackageName, TArray<FName>& OutReferencers) const override;
+	void ScanPathsSynchronous(const TArray<FString>& InPaths, bool bForceRescan, bool bIgnoreDenyListScanFilters) override;
 	void SearchAllAssets(bool bSynchronousSearch) override;
 	/** Every question waits for the scan. */
 	bool IsLoadingAssets() const override { return false; }

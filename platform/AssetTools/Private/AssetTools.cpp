@@ -1,8 +1,9 @@
+#include "AssetNames.h"
 #include "AssetRegistry/AssetRegistryModule.h"
+#include "AssetToolsImpl.h"
 #include "AssetToolsModule.h"
 #include "Factories/Factory.h"
 #include "Misc/FeedbackContext.h"
-#include "Misc/PackageName.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 
@@ -18,49 +19,6 @@ UObject* Refuse(const FString& PackageName, const FString& Reason)
 	return nullptr;
 }
 
-/** "/Game//Doors/" and "Door" make "/Game/Doors/Door". */
-FString JoinPackageName(const FString& PackagePath, const FString& AssetName)
-{
-	FString Path = PackagePath;
-	while (Path.ReplaceInline(TEXT("//"), TEXT("/")) > 0)
-	{
-	}
-	Path.RemoveFromEnd(TEXT("/"));
-	return Path + TEXT("/") + AssetName;
-}
-
-/** The package, empty as it must be; null with a reason. */
-UPackage* MakePackage(const FString& PackageName, const FString& AssetName, FString& OutReason)
-{
-	FText Reason;
-	if (!FName(AssetName).IsValidObjectName(Reason) || !FPackageName::IsValidLongPackageName(PackageName, false, &Reason))
-	{
-		OutReason = Reason.ToString();
-		return nullptr;
-	}
-	// A file that is there takes the name, also one that can't be read.
-	FString Filename;
-	if (FPackageName::DoesPackageExist(PackageName, &Filename))
-	{
-		OutReason = FString::Printf(TEXT("there is the file %s already"), *Filename);
-		return nullptr;
-	}
-	// File systems tell letters of both cases apart, names of packages do not.
-	TArray<FAssetData> Alike;
-	if (IAssetRegistry::GetChecked().GetAssetsByPackageName(FName(PackageName), Alike))
-	{
-		OutReason = FString::Printf(TEXT("there is the asset %s already"), *Alike[0].GetObjectPathString());
-		return nullptr;
-	}
-	UPackage* const Package = CreatePackage(*PackageName);
-	if (StaticFindObjectFast(UObject::StaticClass(), Package, FName(AssetName)))
-	{
-		OutReason = TEXT("there is an object of that name already");
-		return nullptr;
-	}
-	return Package;
-}
-
 UObject* MakeAsset(UPackage* Package, FName Name, UClass* AssetClass, UFactory* Factory, FName CallingContext)
 {
 	if (Factory)
@@ -69,38 +27,38 @@ UObject* MakeAsset(UPackage* Package, FName Name, UClass* AssetClass, UFactory* 
 	}
 	return AssetClass ? NewObject<UObject>(Package, AssetClass, Name, AssetFlags) : nullptr;
 }
+}
 
-class FAssetTools final : public IAssetTools
+UObject* UAssetToolsImpl::CreateAsset(
+	const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory, FName CallingContext)
 {
-public:
-	UObject* CreateAsset(
-		const FString& AssetName, const FString& PackagePath, UClass* AssetClass, UFactory* Factory, FName CallingContext) override
+	const FString PackageName = JoinPackageName(PackagePath, AssetName);
+	FString Reason;
+	UPackage* const Package = MakePackage(PackageName, AssetName, Reason);
+	if (!Package)
 	{
-		const FString PackageName = JoinPackageName(PackagePath, AssetName);
-		FString Reason;
-		UPackage* const Package = MakePackage(PackageName, AssetName, Reason);
-		if (!Package)
-		{
-			return Refuse(PackageName, Reason);
-		}
-		UObject* const Asset = MakeAsset(Package, FName(AssetName), AssetClass, Factory, CallingContext);
-		if (!Asset)
-		{
-			Package->MarkAsGarbage();
-			return Refuse(PackageName, TEXT("it could not be made"));
-		}
-		FAssetRegistryModule::AssetCreated(Asset);
-		Asset->MarkPackageDirty();
-		return Asset;
+		return Refuse(PackageName, Reason);
 	}
-};
+	UObject* const Asset = MakeAsset(Package, FName(AssetName), AssetClass, Factory, CallingContext);
+	if (!Asset)
+	{
+		Package->MarkAsGarbage();
+		return Refuse(PackageName, TEXT("it could not be made"));
+	}
+	FAssetRegistryModule::AssetCreated(Asset);
+	Asset->MarkPackageDirty();
+	return Asset;
 }
 
 IAssetTools& IAssetTools::Get()
 {
 	FModuleManager::LoadModuleChecked<FAssetRegistryModule>(TEXT("AssetRegistry"));
-	static FAssetTools Tools;
-	return Tools;
+	return *GetMutableDefault<UAssetToolsImpl>();
+}
+
+TScriptInterface<IAssetTools> UAssetToolsHelpers::GetAssetTools()
+{
+	return TScriptInterface<IAssetTools>(GetMutableDefault<UAssetToolsImpl>());
 }
 
 IMPLEMENT_MODULE(FAssetToolsModule, AssetTools)

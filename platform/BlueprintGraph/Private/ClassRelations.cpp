@@ -26,3 +26,8 @@ bool IsClassOf(const UBlueprint& Blueprint, const UClass* Class)
 	const UClass* const Own = Blueprint.GetSkeletonOrGeneratedClass();
 	return Class && (Class->ClassGeneratedBy == &Blueprint || DerivesFrom(Own ? Own : Blueprint.ParentClass.Get(), Class));
 }
+
+UFunction* ResolveFunction(const FMemberReference& Reference, const UK2Node& Node)
+{
+	return Reference.ResolveMember<UFunction>(Reference.IsSelfContext() ? Node.GetBlueprintClassFromNode() : nullptr);
+}

@@ -1,5 +1,6 @@
 #include "K2Node_CallFunction.h"
 
+#include "ClassRelations.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
 #include "K2Node_CallParentFunction.h"
@@ -32,7 +33,7 @@ void UK2Node_CallFunction::SetFromFunction(const UFunction* Function)
 
 UFunction* UK2Node_CallFunction::GetTargetFunction() const
 {
-	return FunctionReference.ResolveMember<UFunction>(GetBlueprintClassFromNode());
+	return ResolveFunction(FunctionReference, *this);
 }
 
 UEdGraphPin* UK2Node_CallFunction::GetReturnValuePin() const

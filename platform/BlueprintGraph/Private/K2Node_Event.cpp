@@ -1,5 +1,6 @@
 #include "K2Node_Event.h"
 
+#include "ClassRelations.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
 #include "K2Node_ComponentBoundEvent.h"
@@ -10,7 +11,7 @@ const FName UK2Node_Event::DelegateOutputName(TEXT("OutputDelegate"));
 
 UFunction* UK2Node_Event::FindEventSignatureFunction() const
 {
-	return EventReference.ResolveMember<UFunction>(GetBlueprintClassFromNode());
+	return ResolveFunction(EventReference, *this);
 }
 
 void UK2Node_Event::AllocateDefaultPins()

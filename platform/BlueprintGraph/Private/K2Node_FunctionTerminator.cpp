@@ -1,5 +1,6 @@
 #include "K2Node_FunctionTerminator.h"
 
+#include "ClassRelations.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
 #include "K2Node_FunctionEntry.h"
@@ -7,7 +8,7 @@
 
 UFunction* UK2Node_FunctionTerminator::FindSignatureFunction() const
 {
-	return FunctionReference.ResolveMember<UFunction>(GetBlueprintClassFromNode());
+	return ResolveFunction(FunctionReference, *this);
 }
 
 bool UK2Node_FunctionTerminator::IsPinNameTaken(FName Name) const

@@ -1,6 +1,7 @@
 // HeaderTool --module NAME --include-root DIR --out DIR HEADER...
 //
 // Reads the reflected declarations of the headers and writes DIR/X.generated.h for each and DIR/NAME.gen.cpp for all.
+// Files that would not change are left alone.
 // Errors go to stderr as "file:line: error: text"; then the exit status is 1 and nothing is written.
 
 #include "Parser.h"
@@ -72,6 +73,11 @@ void Report(const Files::path& File, int Line, const std::string& Message)
 	std::cerr << File.string() << ":" << Line << ": error: " << Message << "\n";
 }
 
+std::string ReadText(std::istream& Stream)
+{
+	return { std::istreambuf_iterator<char>(Stream), {} };
+}
+
 std::optional<Header> ReadHeader(const Files::path& File, const Files::path& IncludeRoot)
 {
 	std::ifstream Stream(File, std::ios::binary);
@@ -80,7 +86,7 @@ std::optional<Header> ReadHeader(const Files::path& File, const Files::path& Inc
 		Report(File, 1, "the file cannot be read");
 		return std::nullopt;
 	}
-	const std::string Source{ std::istreambuf_iterator<char>(Stream), {} };
+	const std::string Source = ReadText(Stream);
 	try
 	{
 		return ParseHeader(Source, Files::absolute(File).lexically_relative(Files::absolute(IncludeRoot)).generic_string());
@@ -127,8 +133,13 @@ bool AddNames(NameCheck& Names, const Files::path& File, const Header& Read)
 	return bGood;
 }
 
+// What has not changed keeps its time, so that nothing is compiled because of it.
 bool WriteFile(const Files::path& File, const std::string& Text)
 {
+	if (std::ifstream Old(File, std::ios::binary); Old && ReadText(Old) == Text)
+	{
+		return true;
+	}
 	std::ofstream Stream(File, std::ios::binary);
 	Stream << Text;
 	Stream.close();

@@ -1,13 +1,16 @@
 #include "BlueprintCompilationManager.h"
 
 #include "ClassBuilder.h"
+#include "ClassMatch.h"
 #include "DefaultValues.h"
 #include "Engine/BlueprintGeneratedClass.h"
+#include "EngineLogs.h"
 #include "GraphValidation.h"
 #include "Kismet2/CompilerResultsLog.h"
 #include "Misc/ITransaction.h"
 #include "Reinstancer.h"
 #include "UObject/ClassReplacement.h"
+#include "UObject/CompileOnLoad.h"
 #include "UObject/UObjectGlobals.h"
 
 #include <utility>
@@ -99,8 +102,11 @@ public:
 	{
 	}
 
-	/** @param Class the Blueprint's generated class, or its skeleton */
-	void Run(UClass* Class)
+	/**
+	 * @param Class the Blueprint's generated class, or its skeleton
+	 * @param Within the packages that alone can refer to objects of the class; empty when all can
+	 */
+	void Run(UClass* Class, const TArray<UPackage*>& Within = {})
 	{
 		CollectClasses(Class);
 		FReinstancer Reinstancer(Classes);
@@ -112,7 +118,7 @@ public:
 			SeedDefaults(Each, Reinstancer.GetRetired(Each));
 		}
 		Reinstancer.MakeInstances();
-		Reinstancer.ReplaceReferences();
+		Reinstancer.ReplaceReferences(Within);
 	}
 
 	/** Judges the graphs of all Blueprints, whose classes are complete now. */
@@ -128,13 +134,26 @@ public:
 			FCompilerResultsLog& Log = GetLog(*Own);
 			ValidateGraphs(*Own, Log);
 			Own->Status = Log.NumErrors > 0 ? BS_Error : Log.NumWarnings > 0 ? BS_UpToDateWithWarnings : BS_UpToDate;
+			Own->CompiledStatus = Own->Status;
 		}
 	}
 
-	const TArray<UClass*>& GetClasses() const { return Classes; }
-	static UBlueprint* GetBlueprint(const UClass* Class) { return UBlueprint::GetBlueprintFromClass(Class); }
+	void Tell() const
+	{
+		for (const UClass* const Class : Classes)
+		{
+			UBlueprint* const Own = GetBlueprint(Class);
+			if (Own && Own->GeneratedClass == Class)
+			{
+				Own->BroadcastCompiled();
+				Own->BroadcastChanged();
+			}
+		}
+	}
 
 private:
+	static UBlueprint* GetBlueprint(const UClass* Class) { return UBlueprint::GetBlueprintFromClass(Class); }
+
 	/** Parents first. Retired layouts are the reinstancer's matter. */
 	void CollectClasses(UClass* Class)
 	{
@@ -205,6 +224,107 @@ private:
 	TArray<UClass*> Classes;
 	TMap<const UBlueprint*, TUniquePtr<FCompilerResultsLog>> Logs;
 };
+
+FDelegateHandle OnLoadHandle;
+/** Default values are read in a compile, and what they name is loaded; what must be compiled then waits for the end. */
+bool bCompiling = false;
+TArray<UPackage*> LoadedMeanwhile;
+
+/** Those just loaded that nobody has judged yet, parents first. */
+TArray<UBlueprint*> FindLoaded(const TArray<UPackage*>& Packages)
+{
+	TArray<TPair<int32, UBlueprint*>> Found;
+	for (const UPackage* const Package : Packages)
+	{
+		TArray<UObject*> Objects;
+		GetObjectsWithOuter(Package, Objects, false);
+		for (UObject* const Object : Objects)
+		{
+			UBlueprint* const Blueprint = Cast<UBlueprint>(Object);
+			if (Blueprint && Blueprint->Status == BS_Unknown)
+			{
+				int32 Depth = 0;
+				for (const UClass* Class = Blueprint->ParentClass; Class; Class = Class->GetSuperClass())
+				{
+					++Depth;
+				}
+				Found.Add({ Depth, Blueprint });
+			}
+		}
+	}
+	Found.StableSort([](const auto& A, const auto& B) { return A.Key < B.Key; });
+	TArray<UBlueprint*> Blueprints;
+	for (const TPair<int32, UBlueprint*>& Each : Found)
+	{
+		Blueprints.Add(Each.Value);
+	}
+	return Blueprints;
+}
+
+void CompileOutdated(const TArray<UPackage*>& Packages, const TArray<UPackage*>& Within)
+{
+	const TGuardValue<ITransaction*> NoTransaction(GUndo, nullptr);
+	const TGuardValue<bool> Compiling(bCompiling, true);
+	TArray<TUniquePtr<FCompilerResultsLog>> Logs;
+	TArray<TUniquePtr<FCompilation>> Compilations;
+	for (UBlueprint* const Blueprint : FindLoaded(Packages))
+	{
+		// The compile of a parent compiles its children.
+		Blueprint->Status = Blueprint->CompiledStatus;
+		if (DoesClassMatch(*Blueprint))
+		{
+			continue;
+		}
+		UE_LOG(LogBlueprint, Log, TEXT("%s: the class in the file does not match any more; it is compiled"), *Blueprint->GetPathName());
+		if (!Blueprint->GeneratedClass)
+		{
+			FBlueprintCompilationManager::MakeGeneratedClass(Blueprint, Blueprint->GetBlueprintClass());
+		}
+		FCompilerResultsLog& Log = *Logs.Add_GetRef(MakeUnique<FCompilerResultsLog>());
+		Log.SetSourcePath(Blueprint->GetPathName());
+		const TUniquePtr<FCompilation>& Compilation = Compilations.Add_GetRef(MakeUnique<FCompilation>(*Blueprint, Log));
+		Compilation->Run(Blueprint->GeneratedClass, Within);
+	}
+	for (const TUniquePtr<FCompilation>& Compilation : Compilations)
+	{
+		Compilation->Conclude();
+	}
+	for (const TUniquePtr<FCompilation>& Compilation : Compilations)
+	{
+		Compilation->Tell();
+	}
+}
+
+void CompileLoadedMeanwhile()
+{
+	while (!bCompiling && !LoadedMeanwhile.IsEmpty())
+	{
+		// What was compiled refers to them by now.
+		CompileOutdated(std::exchange(LoadedMeanwhile, {}), {});
+	}
+}
+
+void CompileLoaded(const TArray<UPackage*>& Packages)
+{
+	if (bCompiling)
+	{
+		LoadedMeanwhile.Append(Packages);
+		return;
+	}
+	CompileOutdated(Packages, Packages);
+	CompileLoadedMeanwhile();
+}
+}
+
+void FBlueprintCompilationManager::Initialize()
+{
+	OnLoadHandle = GetCompileOnLoadEvent().AddStatic(&CompileLoaded);
+	UBlueprint::GenerateSkeleton = &GenerateSkeleton;
+}
+
+void FBlueprintCompilationManager::Shutdown()
+{
+	GetCompileOnLoadEvent().Remove(OnLoadHandle);
 }
 
 void FBlueprintCompilationManager::CompileSynchronously(UBlueprint* Blueprint, FCompilerResultsLog& Results)
@@ -225,24 +345,21 @@ void FBlueprintCompilationManager::CompileSynchronously(UBlueprint* Blueprint, F
 		GUndo->SaveObject(Blueprint->GeneratedClass->GetDefaultObject());
 	}
 	GUndo = nullptr;
-	Blueprint->bBeingCompiled = true;
-	if (Blueprint->SkeletonGeneratedClass)
-	{
-		GenerateSkeleton(Blueprint);
-	}
 	FCompilation Compilation(*Blueprint, Results);
-	Compilation.Run(Blueprint->GeneratedClass);
-	Compilation.Conclude();
-	Blueprint->bBeingCompiled = false;
-	for (const UClass* const Class : Compilation.GetClasses())
 	{
-		UBlueprint* const Own = FCompilation::GetBlueprint(Class);
-		if (Own && Own->GeneratedClass == Class)
+		const TGuardValue<bool> Compiling(bCompiling, true);
+		Blueprint->bBeingCompiled = true;
+		if (Blueprint->SkeletonGeneratedClass)
 		{
-			Own->BroadcastCompiled();
-			Own->BroadcastChanged();
+			GenerateSkeleton(Blueprint);
 		}
+		Blueprint->bSkeletonOutdated = false;
+		Compilation.Run(Blueprint->GeneratedClass);
+		Compilation.Conclude();
+		Blueprint->bBeingCompiled = false;
 	}
+	CompileLoadedMeanwhile();
+	Compilation.Tell();
 }
 
 void FBlueprintCompilationManager::MakeGeneratedClass(UBlueprint* Blueprint, UClass* Kind)
@@ -253,6 +370,7 @@ void FBlueprintCompilationManager::MakeGeneratedClass(UBlueprint* Blueprint, UCl
 void FBlueprintCompilationManager::GenerateSkeleton(UBlueprint* Blueprint)
 {
 	const TGuardValue<ITransaction*> NoTransaction(GUndo, nullptr);
+	Blueprint->bSkeletonOutdated = false;
 	if (!Blueprint->SkeletonGeneratedClass)
 	{
 		const FString Name = FString::Printf(TEXT("SKEL_%s_C"), *Blueprint->GetName());

@@ -236,7 +236,41 @@ void FReinstancer::ReadValues(const FOld& Old)
 	New->GetClass()->SerializeTaggedProperties(Reader, New, Archetype->GetClass(), Archetype);
 }
 
-void FReinstancer::ReplaceReferences()
+void FReinstancer::Succeed(UClass* Class, UClass* Successor)
+{
+	const UObject* const OldDefaults = Class->GetDefaultObject(false);
+	Classes.Remove(Class);
+	if (Successor)
+	{
+		Classes.Add(Successor);
+		Retired.Add(Successor, Class);
+		Replacements.Add(Class, Successor);
+		for (FOld& Old : Olds)
+		{
+			Old.ReplacedClass = Old.ReplacedClass == Class ? Successor : Old.ReplacedClass;
+			UObject* const NewOuter = OldDefaults && Old.Object->IsIn(OldDefaults) ? FindNew(Old.Outer) : nullptr;
+			UObject* const Inner = NewOuter ? StaticFindObjectFast(nullptr, NewOuter, Old.Name) : nullptr;
+			if (UObject* const Counterpart = Old.Object == OldDefaults ? Successor->GetDefaultObject() : Inner)
+			{
+				Replacements.Add(Old.Object, Counterpart);
+			}
+		}
+	}
+	// Old code may still look at its defaults; the new ones have the values of their constructor.
+	Olds.RemoveAll([=](const FOld& Old) { return OldDefaults && (Old.Object == OldDefaults || Old.Object->IsIn(OldDefaults)); });
+}
+
+void FReinstancer::ReplaceReferences(const TArray<UPackage*>& Within)
+{
+	const TMap<UObject*, UObject*> All = GetReplacements();
+	if (!All.IsEmpty())
+	{
+		ReplaceAllReferences(All, Within);
+	}
+	DiscardReplaced();
+}
+
+TMap<UObject*, UObject*> FReinstancer::GetReplacements() const
 {
 	TMap<UObject*, UObject*> All = Replacements;
 	for (UClass* const Class : Classes)
@@ -257,10 +291,11 @@ void FReinstancer::ReplaceReferences()
 			All.Add(Old.Object, nullptr);
 		}
 	}
-	if (!All.IsEmpty())
-	{
-		ReplaceAllReferences(All);
-	}
+	return All;
+}
+
+void FReinstancer::DiscardReplaced()
+{
 	for (const FOld& Old : Olds)
 	{
 		if (Old.ReplacedClass || FindNew(Old.Object))

@@ -21,7 +21,17 @@ public:
 	/** With the values that the old one had; nothing happens when there was none. */
 	void MakeDefaultObject(UClass* Class);
 	void MakeInstances();
-	void ReplaceReferences();
+	/** @param Within the packages that alone can refer to the objects; empty when all can */
+	void ReplaceReferences(const TArray<UPackage*>& Within);
+
+	/**
+	 * Instead of Retire and MakeDefaultObject for a class of C++: another class has come for it, with defaults of its own. Null when none
+	 * has come, and there are no objects.
+	 */
+	void Succeed(UClass* Class, UClass* Successor);
+	/** The two halves of ReplaceReferences: what replaces what, null for what is gone; and the end of what was replaced. */
+	TMap<UObject*, UObject*> GetReplacements() const;
+	void DiscardReplaced();
 
 private:
 	/** An object as it was before: one of the classes', or one inside such a one. */

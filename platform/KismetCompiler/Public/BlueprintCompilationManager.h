@@ -12,6 +12,9 @@ class FCompilerResultsLog;
 /** Game thread. */
 struct KISMETCOMPILER_API FBlueprintCompilationManager
 {
+	/** From now on a Blueprint that is loaded is compiled when its class does not match it, or its parent, any more. */
+	static void Initialize();
+	static void Shutdown();
 	/**
 	 * Compiles the Blueprint, then those whose classes derive from its class. Each gets its Status; what is found in any of them goes to
 	 * the log, and what is found in the first one to Results. A Blueprint with errors has a class all the same.

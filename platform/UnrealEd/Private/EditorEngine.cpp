@@ -1,6 +1,8 @@
 #include "Editor/EditorEngine.h"
 
+#include "BlueprintCompilationManager.h"
 #include "Editor/Transactor.h"
+#include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/UObjectGlobals.h"
 
@@ -55,14 +57,22 @@ class FUnrealEdModule final : public IModuleInterface
 	{
 		GEditor = NewObject<UEditorEngine>();
 		GEditor->AddToRoot();
+		GEngine = GEditor;
+		OnBeginFrame = FCoreDelegates::OnBeginFrame.AddLambda([] { GEngine->TickDeferredCommands(); });
+		FBlueprintCompilationManager::Initialize();
 	}
 
 	void ShutdownModule() override
 	{
+		FBlueprintCompilationManager::Shutdown();
 		GEditor->ResetTransaction(FText::GetEmpty());
+		FCoreDelegates::OnBeginFrame.Remove(OnBeginFrame);
 		GEditor->RemoveFromRoot();
 		GEditor = nullptr;
+		GEngine = nullptr;
 	}
+
+	FDelegateHandle OnBeginFrame;
 };
 }
 

@@ -3,7 +3,8 @@
 // AssetRegistry: which assets there are, in files and in memory, without loading any.
 //
 // What lies in files is read from their headers alone. There is no background scan: each question first brings the list up to date with
-// the content folders, where only files that have changed since are opened; one that can't be read is logged once. Left out:
+// the content folders, where only files that have changed since are opened; one that can't be read is logged once. The system tells
+// when nothing has changed; what it does not tell of (a link's target, other machines) is seen within a second. Left out:
 // dependencies between packages, primary assets, saving the list itself.
 
 #include "AssetRegistry/ARFilter.h"
@@ -32,8 +33,12 @@ public:
 	/** @return an invalid one when there is no such asset */
 	virtual FAssetData GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 
+	/** Appends the packages whose files refer to a package, softly, too. Each file is read. @return whether there are any */
+	virtual bool GetReferencers(FName PackageName, TArray<FName>& OutReferencers) const = 0;
+
 	/** Looks at the folders now. @param bForceRescan files that seem unchanged are read again, too */
-	virtual void ScanPathsSynchronous(const TArray<FString>& InPaths, bool bForceRescan = false) = 0;
+	virtual void ScanPathsSynchronous(
+		const TArray<FString>& InPaths, bool bForceRescan = false, bool bIgnoreDenyListScanFilters = false) = 0;
 	virtual void SearchAllAssets(bool bSynchronousSearch) = 0;
 	virtual bool IsLoadingAssets() const = 0;
 

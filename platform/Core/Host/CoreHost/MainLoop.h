@@ -3,7 +3,8 @@
 #include "Templates/Function.h"
 
 /**
- * The main loop's parts. A frame gives waiting log lines to their devices, runs the game thread's tasks and ticks the core ticker.
+ * The main loop's parts. A frame gives waiting log lines to their devices, tells that it begins (FCoreDelegates), runs the game thread's
+ * tasks and ticks the core ticker.
  * Between two frames the loop sleeps until something is due by the platform's clock, but no longer than 16 real milliseconds.
  * Game thread, except Wake.
  */

@@ -9,7 +9,7 @@ struct CORE_API FHostProject
 	static void Set(const FString& File);
 	/**
 	 * Where FPaths::EngineDir is from now on. Without it, it is "kestrin/Engine/" in the user's state directory, as
-	 * XDG_STATE_HOME or HOME tell it.
+	 * XDG_STATE_HOME or HOME tell it, or "kestrin/Engine-2/" and so on while other editors run.
 	 */
 	static void SetEngineDir(const FString& Directory);
 };

@@ -1,9 +1,9 @@
 #include "GenericPlatform/GenericPlatformFile.h"
 
 #include "CoreHost/FileFaults.h"
+#include "HAL/FileStatus.h"
 
 #include <cerrno>
-#include <sys/stat.h>
 #include <unistd.h>
 
 IFileHandle::~IFileHandle()
@@ -11,10 +11,9 @@ IFileHandle::~IFileHandle()
 	::close(Descriptor);
 }
 
-int64 IFileHandle::Size() const
+FFileStatData IFileHandle::GetStatData() const
 {
-	struct stat Stat;
-	return ::fstat(Descriptor, &Stat) == 0 ? Stat.st_size : -1;
+	return FFileStatus(Descriptor).ToStatData();
 }
 
 bool IFileHandle::Read(uint8* Destination, int64 BytesToRead)

@@ -3,6 +3,7 @@
 #include "Async/GameThreadTasks.h"
 #include "Containers/Ticker.h"
 #include "CoreHost/Clock.h"
+#include "Misc/CoreDelegates.h"
 #include "Misc/OutputDeviceRedirector.h"
 
 #include <algorithm>
@@ -46,6 +47,7 @@ void FMainLoop::Tick()
 	const float DeltaTime = static_cast<float>(Now - LastFrame);
 	LastFrame = Now;
 	GLog->FlushThreadedLogs();
+	FCoreDelegates::OnBeginFrame.Broadcast();
 	FGameThreadTasks::Get().Run();
 	FTSTicker::GetCoreTicker().Tick(DeltaTime);
 }

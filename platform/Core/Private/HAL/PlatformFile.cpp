@@ -1,6 +1,7 @@
 #include "GenericPlatform/GenericPlatformFile.h"
 
 #include "CoreHost/FileFaults.h"
+#include "HAL/FileStatus.h"
 #include "HAL/NativePath.h"
 #include "HAL/PlatformFileManager.h"
 #include "Misc/Paths.h"
@@ -14,23 +15,6 @@
 
 namespace
 {
-constexpr mode_t AnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-
-/** What is at a path, links followed; nothing when there is nothing. */
-struct FStatus
-{
-	explicit FStatus(const TCHAR* Path)
-		: bFound(::stat(NativePath(Path).c_str(), &Stat) == 0)
-	{
-	}
-	bool IsFile() const { return bFound && S_ISREG(Stat.st_mode); }
-	bool IsDirectory() const { return bFound && S_ISDIR(Stat.st_mode); }
-	bool IsReadOnlyFile() const { return IsFile() && (Stat.st_mode & AnyWrite) == 0; }
-
-	struct stat Stat = {};
-	bool bFound;
-};
-
 bool DeleteNativeFile(const std::string& Path)
 {
 	return ::unlink(Path.c_str()) == 0;
@@ -57,12 +41,12 @@ FPlatformFileManager& FPlatformFileManager::Get()
 
 bool IPlatformFile::FileExists(const TCHAR* Filename)
 {
-	return FStatus(Filename).IsFile();
+	return FFileStatus(Filename).IsFile();
 }
 
 int64 IPlatformFile::FileSize(const TCHAR* Filename)
 {
-	const FStatus Status(Filename);
+	const FFileStatus Status(Filename);
 	return Status.IsFile() ? Status.Stat.st_size : -1;
 }
 
@@ -77,18 +61,18 @@ bool IPlatformFile::DeleteFile(const TCHAR* Filename)
 
 bool IPlatformFile::IsReadOnly(const TCHAR* Filename)
 {
-	return FStatus(Filename).IsReadOnlyFile();
+	return FFileStatus(Filename).IsReadOnlyFile();
 }
 
 bool IPlatformFile::SetReadOnly(const TCHAR* Filename, bool bNewReadOnlyValue)
 {
-	const FStatus Status(Filename);
+	const FFileStatus Status(Filename);
 	if (!FFileFaults::Allows(EFileOperation::SetReadOnly, Filename) || !Status.IsFile())
 	{
 		return false;
 	}
 	const mode_t Mode = Status.Stat.st_mode & 07777;
-	return ::chmod(NativePath(Filename).c_str(), bNewReadOnlyValue ? Mode & ~AnyWrite : Mode | S_IWUSR) == 0;
+	return ::chmod(NativePath(Filename).c_str(), bNewReadOnlyValue ? Mode & ~FFileStatus::AnyWrite : Mode | S_IWUSR) == 0;
 }
 
 bool IPlatformFile::MoveFile(const TCHAR* To, const TCHAR* From)
@@ -122,17 +106,7 @@ FDateTime IPlatformFile::GetTimeStamp(const TCHAR* Filename)
 
 FFileStatData IPlatformFile::GetStatData(const TCHAR* FilenameOrDirectory)
 {
-	const FStatus Status(FilenameOrDirectory);
-	if (!Status.bFound)
-	{
-		return FFileStatData();
-	}
-	const timespec& Time = Status.Stat.st_mtim;
-	return { .ModificationTime = FDateTime::FromUnixTimestamp(Time.tv_sec) + FTimespan(Time.tv_nsec / 100),
-		.FileSize = Status.IsDirectory() ? -1 : static_cast<int64>(Status.Stat.st_size),
-		.bIsDirectory = Status.IsDirectory(),
-		.bIsReadOnly = Status.IsReadOnlyFile(),
-		.bIsValid = true };
+	return FFileStatus(FilenameOrDirectory).ToStatData();
 }
 
 void IPlatformFile::SetTimeStamp(const TCHAR* Filename, FDateTime DateTime)
@@ -146,13 +120,18 @@ void IPlatformFile::SetTimeStamp(const TCHAR* Filename, FDateTime DateTime)
 
 TUniquePtr<IFileHandle> IPlatformFile::OpenRead(const TCHAR* Filename)
 {
-	// Anything but a regular file may block for ever.
-	if (!FFileFaults::Allows(EFileOperation::OpenRead, Filename) || !FileExists(Filename))
+	if (!FFileFaults::Allows(EFileOperation::OpenRead, Filename))
 	{
 		return nullptr;
 	}
-	const int Descriptor = ::open(NativePath(Filename).c_str(), O_RDONLY | O_CLOEXEC);
-	return Descriptor < 0 ? nullptr : MakeUnique<IFileHandle>(Descriptor, FString(Filename));
+	// Anything but a regular file may block for ever, already when it is opened.
+	const int Descriptor = ::open(NativePath(Filename).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+	if (Descriptor < 0)
+	{
+		return nullptr;
+	}
+	TUniquePtr<IFileHandle> Handle = MakeUnique<IFileHandle>(Descriptor, FString(Filename));
+	return FFileStatus(Descriptor).IsFile() ? MoveTemp(Handle) : nullptr;
 }
 
 TUniquePtr<IFileHandle> IPlatformFile::OpenWrite(const TCHAR* Filename, bool bAppend)
@@ -161,7 +140,7 @@ TUniquePtr<IFileHandle> IPlatformFile::OpenWrite(const TCHAR* Filename, bool bAp
 	{
 		return nullptr;
 	}
-	const FStatus Status(Filename);
+	const FFileStatus Status(Filename);
 	if (Status.bFound && (!Status.IsFile() || Status.IsReadOnlyFile()))
 	{
 		return nullptr;
@@ -173,7 +152,7 @@ TUniquePtr<IFileHandle> IPlatformFile::OpenWrite(const TCHAR* Filename, bool bAp
 
 bool IPlatformFile::DirectoryExists(const TCHAR* Directory)
 {
-	return FStatus(Directory).IsDirectory();
+	return FFileStatus(Directory).IsDirectory();
 }
 
 bool IPlatformFile::CreateDirectory(const TCHAR* Directory)

@@ -6,6 +6,11 @@
 #include "Misc/App.h"
 #include "Misc/Paths.h"
 
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/file.h>
+#include <unistd.h>
+
 namespace
 {
 struct FProject
@@ -27,7 +32,33 @@ FString DefaultEngineDirectory()
 	const FString StateHome = FPlatformMisc::GetEnvironmentVariable(TEXT("XDG_STATE_HOME"));
 	const FString Home = FPlatformMisc::GetEnvironmentVariable(TEXT("HOME"));
 	const FString State = !StateHome.IsEmpty() ? StateHome : FPaths::Combine(Home.IsEmpty() ? TEXT("/tmp") : *Home, TEXT(".local/state"));
-	return FPaths::Combine(State, TEXT("kestrin/Engine/"));
+	return FPaths::Combine(State, TEXT("kestrin/Engine"));
+}
+
+/** Whether the folder is this process's alone from now on; true for one that can't be made, in which nothing can be written anyway. */
+bool Occupy(const FString& Directory)
+{
+	std::error_code Ignored;
+	std::filesystem::create_directories(NativePath(*Directory), Ignored);
+	const int Lock = ::open(NativePath(*(Directory / TEXT(".lock"))).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+	if (Lock < 0 || ::flock(Lock, LOCK_EX | LOCK_NB) == 0)
+	{
+		return true; // the lock goes with the process
+	}
+	::close(Lock);
+	return false;
+}
+
+/** The first of "Engine", "Engine-2" and so on that no other editor has. */
+FString ChooseEngineDirectory()
+{
+	const FString First = DefaultEngineDirectory();
+	FString Directory = First;
+	for (int32 Number = 2; !Occupy(Directory); ++Number)
+	{
+		Directory = FString::Printf(TEXT("%s-%d"), *First, Number);
+	}
+	return WithEndingSlash(Directory);
 }
 }
 
@@ -84,7 +115,7 @@ FString FPaths::EngineDir()
 	FString& Directory = Project().EngineDirectory;
 	if (Directory.IsEmpty())
 	{
-		Directory = DefaultEngineDirectory();
+		Directory = ChooseEngineDirectory();
 	}
 	return Directory;
 }

@@ -28,9 +28,9 @@ FString LibraryName(const FString& ModuleName)
 }
 
 /** Loads a library for good and finds its entry; null, with the reason, when one of the two fails. */
-FInitializeFunction LoadEntry(const FString& File, EModuleLoadResult& OutResult, FString& OutReason)
+FInitializeFunction LoadEntry(const FString& File, bool bGame, EModuleLoadResult& OutResult, FString& OutReason)
 {
-	void* const Library = ::dlopen(NativePath(*File).c_str(), RTLD_NOW | RTLD_GLOBAL);
+	void* const Library = ::dlopen(NativePath(*File).c_str(), RTLD_NOW | (bGame ? RTLD_LOCAL : RTLD_GLOBAL));
 	void* const Entry = Library ? ::dlsym(Library, "InitializeModule") : nullptr;
 	if (Entry)
 	{
@@ -57,29 +57,38 @@ FModuleManager::FModuleManager()
 
 FModuleManager::~FModuleManager() = default;
 
-void FModuleManager::AddBinariesDirectory(const TCHAR* InDirectory)
+void FModuleManager::AddBinariesDirectory(const TCHAR* InDirectory, bool bIsGameDirectory)
 {
 	const FString Directory = FPaths::ConvertRelativePathToFull(InDirectory);
-	Directories.RemoveAll([&Directory](const FString& Each) { return Each.Equals(Directory); });
-	Directories.Insert(Directory, 0);
+	Directories.RemoveAll([&Directory](const FDirectory& Each) { return Each.Path.Equals(Directory); });
+	Directories.Insert({ Directory, bIsGameDirectory }, 0);
 }
 
-FString FModuleManager::FindLibrary(const FString& ModuleName) const
+void FModuleManager::SetModuleFilename(FName ModuleName, const FString& Filename)
 {
-	for (const FString& Directory : Directories)
+	Filenames.Add(ModuleName, Filename);
+}
+
+FModuleManager::FLibrary FModuleManager::FindLibrary(const FString& ModuleName) const
+{
+	if (const FString* const File = Filenames.Find(FName(ModuleName)))
 	{
-		FString File = FPaths::Combine(Directory, LibraryName(ModuleName));
+		return { *File, true };
+	}
+	for (const FDirectory& Directory : Directories)
+	{
+		const FString File = FPaths::Combine(Directory.Path, LibraryName(ModuleName));
 		if (FPaths::FileExists(File))
 		{
-			return File;
+			return { File, Directory.bGame };
 		}
 	}
-	return FString();
+	return {};
 }
 
 bool FModuleManager::ModuleExists(const TCHAR* ModuleName) const
 {
-	return !FindLibrary(ModuleName).IsEmpty();
+	return !FindLibrary(ModuleName).File.IsEmpty();
 }
 
 IModuleInterface* FModuleManager::GetModule(FName InModuleName) const
@@ -103,16 +112,21 @@ IModuleInterface* FModuleManager::LoadModuleWithFailureReason(FName InModuleName
 		return Loaded;
 	}
 	const FString Name = InModuleName.ToString();
-	const FString File = FindLibrary(Name);
-	if (File.IsEmpty())
+	const FLibrary Library = FindLibrary(Name);
+	if (Library.File.IsEmpty())
 	{
 		OutFailureReason = EModuleLoadResult::FileNotFound;
+		TArray<FString> Searched;
+		for (const FDirectory& Directory : Directories)
+		{
+			Searched.Add(Directory.Path);
+		}
 		UE_LOG(LogModuleManager, Warning, TEXT("Module '%s' could not be loaded: there is no %s in %s"), *Name, *LibraryName(Name),
-			*FString::Join(Directories, TEXT(", ")));
+			*FString::Join(Searched, TEXT(", ")));
 		return nullptr;
 	}
 	FString Reason;
-	const FInitializeFunction Initialize = LoadEntry(File, OutFailureReason, Reason);
+	const FInitializeFunction Initialize = LoadEntry(Library.File, Library.bGame, OutFailureReason, Reason);
 	if (!Initialize)
 	{
 		UE_LOG(LogModuleManager, Warning, TEXT("Module '%s' could not be loaded: %s"), *Name, *Reason);

@@ -68,18 +68,19 @@ FString LoadString(FArchive& Ar)
 		Ar.SetError();
 		return FString();
 	}
-	std::u16string Text(static_cast<SIZE_T>(Count), u'\0');
+	FString Result;
+	std::u16string& Text = Result.Native();
+	Text.resize(static_cast<SIZE_T>(Count));
 	if (bWide)
 	{
 		Ar.Serialize(Text.data(), Bytes);
+		return Result;
 	}
-	else
-	{
-		std::string Narrow(static_cast<SIZE_T>(Count), '\0');
-		Ar.Serialize(Narrow.data(), Bytes);
-		std::transform(Narrow.begin(), Narrow.end(), Text.begin(), [](char Char) { return static_cast<unsigned char>(Char); });
-	}
-	return FString(std::u16string_view(Text));
+	// Into the second half of the room, and widened from there: each character is read before its place is written.
+	auto* const Narrow = reinterpret_cast<uint8*>(Text.data()) + Count;
+	Ar.Serialize(Narrow, Bytes);
+	std::copy(Narrow, Narrow + Count, Text.begin());
+	return Result;
 }
 }
 

@@ -37,42 +37,44 @@ public:
 	{
 		{
 			const std::shared_lock Lock(Mutex);
-			const auto First = FirstSpellings.find(Text);
-			const auto Exact = Spellings.find(Text);
-			if (First != FirstSpellings.end() && Exact != Spellings.end())
+			if (const auto Exact = Spellings.find(Text); Exact != Spellings.end())
 			{
-				return { First->second, Exact->second };
+				return { Entries[Exact->second].First, Exact->second };
 			}
 		}
 		const std::unique_lock Lock(Mutex);
 		const auto Exact = Spellings.find(Text);
 		const uint32 Display = Exact == Spellings.end() ? Add(Text) : Exact->second;
-		return { FirstSpellings.try_emplace(Entries[Display], Display).first->second, Display };
+		return { Entries[Display].First, Display };
 	}
 
 	const std::u16string& Text(uint32 Index)
 	{
 		const std::shared_lock Lock(Mutex);
-		return Entries[Index];
+		return Entries[Index].Text;
 	}
 
 private:
-	FNameTable()
+	struct FEntry
 	{
-		Add(u"None");
-		FirstSpellings.emplace(Entries[0], 0);
-	}
+		std::u16string Text;
+		/** The first spelling of the same name. */
+		uint32 First;
+	};
+
+	FNameTable() { Add(u"None"); }
 
 	uint32 Add(std::u16string_view Text)
 	{
 		const auto Index = static_cast<uint32>(Entries.size());
-		Entries.emplace_back(Text);
-		Spellings.emplace(Entries.back(), Index);
+		FEntry& Entry = Entries.emplace_back(FEntry{ std::u16string(Text), Index });
+		Spellings.emplace(Entry.Text, Index);
+		Entry.First = FirstSpellings.try_emplace(Entry.Text, Index).first->second;
 		return Index;
 	}
 
 	std::shared_mutex Mutex;
-	std::deque<std::u16string> Entries;
+	std::deque<FEntry> Entries;
 	std::unordered_map<std::u16string_view, uint32> Spellings;
 	std::unordered_map<std::u16string_view, uint32, FHashIgnoringCase, FEqualIgnoringCase> FirstSpellings;
 };
@@ -168,8 +170,8 @@ bool FName::IsValidObjectName(FText& OutReason) const
 	const SIZE_T Invalid = Text.View().find_first_of(INVALID_OBJECTNAME_CHARACTERS);
 	if (Invalid != std::u16string_view::npos)
 	{
-		OutReason = FText::FromString(FString::Printf(
-			TEXT("The name '%s' can't contain the character '%c'."), *Text, Text[static_cast<int32>(Invalid)]));
+		OutReason = FText::FromString(
+			FString::Printf(TEXT("The name '%s' can't contain the character '%c'."), *Text, Text[static_cast<int32>(Invalid)]));
 		return false;
 	}
 	return true;

@@ -4,6 +4,19 @@
 #include "Templates/Function.h"
 #include "Templates/UniquePtr.h"
 
+/** What a file system knows of a file or directory. */
+struct FFileStatData
+{
+	/** UTC. */
+	FDateTime ModificationTime = FDateTime::MinValue();
+	/** In bytes; -1 for a directory. */
+	int64 FileSize = -1;
+	bool bIsDirectory = false;
+	bool bIsReadOnly = false;
+	/** False when there is no such file or directory. */
+	bool bIsValid = false;
+};
+
 /** An open file. Closed when it goes. */
 class CORE_API IFileHandle
 {
@@ -18,7 +31,8 @@ public:
 	UE_NONCOPYABLE(IFileHandle)
 
 	/** In bytes; -1 when it can't be told. */
-	int64 Size() const;
+	int64 Size() const { return GetStatData().FileSize; }
+	FFileStatData GetStatData() const;
 	/** False unless all the bytes could be read. */
 	[[nodiscard]] bool Read(uint8* Destination, int64 BytesToRead);
 	/** False unless all the bytes were written; some of them may be in the file then. */
@@ -29,19 +43,6 @@ public:
 private:
 	int Descriptor;
 	FString Path;
-};
-
-/** What a file system knows of a file or directory. */
-struct FFileStatData
-{
-	/** UTC. */
-	FDateTime ModificationTime = FDateTime::MinValue();
-	/** In bytes; -1 for a directory. */
-	int64 FileSize = -1;
-	bool bIsDirectory = false;
-	bool bIsReadOnly = false;
-	/** False when there is no such file or directory. */
-	bool bIsValid = false;
 };
 
 /**

@@ -11,11 +11,12 @@ public:
 	static FString ProjectPluginsDir();
 	static FString ProjectConfigDir();
 	static FString ProjectSavedDir();
+	static FString ProjectIntermediateDir() { return ProjectDir() + TEXT("Intermediate/"); }
 	static FString ProjectLogDir();
 	/** The .uproject file; empty while no project is open. */
 	static FString GetProjectFilePath();
 	static bool IsProjectFilePathSet() { return !GetProjectFilePath().IsEmpty(); }
-	/** The editor's own state. */
+	/** The editor's own state; editors that run side by side have one each. */
 	static FString EngineDir();
 	static FString EngineContentDir() { return EngineDir() + TEXT("Content/"); }
 

@@ -4,6 +4,7 @@
 // remains valid. Unloading a module shuts it down and deletes its object.
 
 #include "Containers/Array.h"
+#include "Containers/Map.h"
 #include "Delegates/Delegate.h"
 #include "Misc/AssertionMacros.h"
 #include "Modules/ModuleInterface.h"
@@ -37,8 +38,14 @@ public:
 	~FModuleManager();
 	UE_NONCOPYABLE(FModuleManager)
 
-	/** Adds a folder in which modules are looked for, before those added earlier; the folder of Core itself comes last. */
-	void AddBinariesDirectory(const TCHAR* InDirectory);
+	/**
+	 * Adds a folder in which modules are looked for, before those added earlier; the folder of Core itself comes last.
+	 * @param bIsGameDirectory its libraries may be replaced while they are loaded, so that no other library sees their symbols unless it
+	 * links them
+	 */
+	void AddBinariesDirectory(const TCHAR* InDirectory, bool bIsGameDirectory = false);
+	/** The library that a game module is loaded from the next time, instead of the one in its folder. */
+	void SetModuleFilename(FName ModuleName, const FString& Filename);
 
 	/** Loads a module and starts it, unless it is there already. @return null on failure, which is logged */
 	IModuleInterface* LoadModule(FName InModuleName);
@@ -81,6 +88,19 @@ public:
 	}
 
 private:
+	struct FDirectory
+	{
+		FString Path;
+		bool bGame;
+	};
+
+	struct FLibrary
+	{
+		/** Empty when there is none. */
+		FString File;
+		bool bGame = false;
+	};
+
 	struct FModule
 	{
 		FName Name;
@@ -93,9 +113,10 @@ private:
 		check(Module);
 		return static_cast<ModuleType&>(*Module);
 	}
-	FString FindLibrary(const FString& ModuleName) const;
+	FLibrary FindLibrary(const FString& ModuleName) const;
 
-	TArray<FString> Directories;
+	TArray<FDirectory> Directories;
+	TMap<FName, FString> Filenames;
 	/** In the order in which they finished starting; one that is starting is at the end. */
 	std::vector<FModule> Modules;
 	TMulticastDelegate<FName, bool> ProcessLoadedObjects;

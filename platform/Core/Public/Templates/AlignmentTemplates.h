@@ -2,9 +2,12 @@
 
 #include "CoreTypes.h"
 
-/** The next multiple of Alignment, a power of two, at or above Value. */
+#include <type_traits>
+
+/** The next multiple of Alignment, a power of two, at or above Value, which is a number or an address. */
 template <typename T>
+requires std::is_integral_v<T> || std::is_pointer_v<T>
 constexpr T Align(T Value, uint64 Alignment)
 {
-	return static_cast<T>((static_cast<uint64>(Value) + Alignment - 1) & ~(Alignment - 1));
+	return (T)(((uint64)Value + Alignment - 1) & ~(Alignment - 1));
 }

@@ -103,16 +103,49 @@ UClass* RetireClassLayout(UClass* Class, UClass* RetiredSuper)
 	return Retired;
 }
 
-void ReplaceAllReferences(const TMap<UObject*, UObject*>& Replacements)
+void ReplaceAllReferences(const TMap<UObject*, UObject*>& Replacements, const TArray<UPackage*>& Within)
 {
 	FReplacer Replacer(Replacements);
-	for (int32 Index = 0; Index < FObjectTable::Get().GetItems().Num(); ++Index)
+	const auto Visit = [&Replacer](UObject* Object)
 	{
-		UObject* const Object = FObjectTable::Get().GetItems()[Index].Object;
 		const UClass* const Class = Cast<UClass>(Object);
 		if (Object && !(Class && IsRetiredClass(Class)))
 		{
 			Object->Serialize(Replacer);
 		}
+	};
+	for (const UPackage* const Package : Within)
+	{
+		TArray<UObject*> Objects;
+		GetObjectsWithOuter(Package, Objects);
+		for (UObject* const Object : Objects)
+		{
+			Visit(Object);
+		}
 	}
+	for (int32 Index = 0; Within.IsEmpty() && Index < FObjectTable::Get().GetItems().Num(); ++Index)
+	{
+		Visit(FObjectTable::Get().GetItems()[Index].Object);
+	}
+}
+
+void ReplaceAllReferencesBut(const TSet<const UObject*>& Untouched, const TMap<UObject*, UObject*>& Replacements)
+{
+	FReplacer Replacer(Replacements);
+	const auto VisitAll = [&](bool bTypes)
+	{
+		for (int32 Index = 0; Index < FObjectTable::Get().GetItems().Num(); ++Index)
+		{
+			UObject* const Object = FObjectTable::Get().GetItems()[Index].Object;
+			const UClass* const Class = Cast<UClass>(Object);
+			const bool bVisited = Object && !Untouched.Contains(Object) && !(Class && IsRetiredClass(Class));
+			if (bVisited && Object->IsA<UField>() == bTypes)
+			{
+				Object->Serialize(Replacer);
+			}
+		}
+	};
+	// A property takes only objects of its class.
+	VisitAll(true);
+	VisitAll(false);
 }

@@ -51,11 +51,6 @@ void Serialize(FArchive& Ar, const UEnum* Enum, int64& Value)
 	{
 		return;
 	}
-	if (!Ar.IsPersistent())
-	{
-		Ar << Value;
-		return;
-	}
 	FName Name = Ar.IsLoading() ? FName() : GetSavedName(Enum, Value);
 	Ar << Name;
 	if (Ar.IsLoading() && !Ar.IsError())

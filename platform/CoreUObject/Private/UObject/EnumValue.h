@@ -9,6 +9,6 @@ namespace EnumValue
 FString Export(const UEnum* Enum, int64 Value);
 /** Takes an enumerator with or without "Enum::", or a number. @return behind it, or null */
 const TCHAR* Import(const UEnum* Enum, const TCHAR* Buffer, int64& OutValue);
-/** By name in files, so that enumerators can be moved; one that is gone leaves the value as it was. By number otherwise. */
+/** By name, so that enumerators can be moved; one that is gone leaves the value as it was. */
 void Serialize(FArchive& Ar, const UEnum* Enum, int64& Value);
 }

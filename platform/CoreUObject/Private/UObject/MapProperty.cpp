@@ -1,5 +1,6 @@
 #include "UObject/MapProperty.h"
 
+#include "HashedValues.h"
 #include "PropertyText.h"
 #include "ScratchValue.h"
 
@@ -39,44 +40,14 @@ void FMapProperty::CopySingleValue(void* Dest, const void* Src) const
 	{
 		return;
 	}
-	const FScriptMapHelper From(this, Src);
 	FScriptMapHelper To(this, Dest);
-	To.EmptyValues();
-	for (int32 Index = 0; Index < From.GetMaxIndex(); ++Index)
-	{
-		if (From.IsValidIndex(Index))
-		{
-			To.AddPair(From.GetKeyPtr(Index), From.GetValuePtr(Index));
-		}
-	}
+	CopyElements(FScriptMapHelper(this, Src), To, ValueProp);
 }
 
 bool FMapProperty::Identical(const void* A, const void* B, uint32 PortFlags) const
 {
 	const FScriptMapHelper One(this, A);
-	if (!B)
-	{
-		return One.Num() == 0;
-	}
-	const FScriptMapHelper Other(this, B);
-	if (One.Num() != Other.Num())
-	{
-		return false;
-	}
-	for (int32 Index = 0; Index < One.GetMaxIndex(); ++Index)
-	{
-		if (!One.IsValidIndex(Index))
-		{
-			continue;
-		}
-		const int32 Found = Other.FindIndex(One.GetKeyPtr(Index));
-		if (Found == INDEX_NONE || !KeyProp->Identical(One.GetKeyPtr(Index), Other.GetKeyPtr(Found), PortFlags) ||
-			!ValueProp->Identical(One.GetValuePtr(Index), Other.GetValuePtr(Found), PortFlags))
-		{
-			return false;
-		}
-	}
-	return true;
+	return B ? HaveIdenticalElements(One, FScriptMapHelper(this, B), *KeyProp, ValueProp, PortFlags) : One.Num() == 0;
 }
 
 void FMapProperty::Serialize(FArchive& Ar)

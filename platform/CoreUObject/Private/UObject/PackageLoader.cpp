@@ -3,6 +3,7 @@
 #include "Misc/FileHelper.h"
 #include "Misc/PackageName.h"
 #include "ReferenceArchive.h"
+#include "UObject/CompileOnLoad.h"
 #include "UObject/UObjectGlobals.h"
 
 #include <algorithm>
@@ -65,6 +66,12 @@ bool NeedsLost(const FLinkerLoad& Linker, const TSet<const UObject*>& Lost)
 		return Object && (Finder.bFound || Lost.Contains(Object->GetClass()));
 	});
 }
+}
+
+TMulticastDelegate<const TArray<UPackage*>&>& GetCompileOnLoadEvent()
+{
+	static TMulticastDelegate<const TArray<UPackage*>&> Event;
+	return Event;
 }
 
 FPackageLoader::FPackageLoader(uint32 InLoadFlags)
@@ -167,9 +174,21 @@ void FPackageLoader::Finish()
 	{
 		Object->ConditionalPostLoad();
 	}
+	TArray<UPackage*> Packages;
 	for (const TUniquePtr<FLinkerLoad>& Linker : Linkers)
 	{
-		Linker->GetPackage()->SetDirtyFlag(false);
+		if (!Linker->HasFailed())
+		{
+			Packages.Add(Linker->GetPackage());
+		}
+	}
+	if ((LoadFlags & LOAD_DisableCompileOnLoad) == 0)
+	{
+		GetCompileOnLoadEvent().Broadcast(Packages);
+	}
+	for (UPackage* const Package : Packages)
+	{
+		Package->SetDirtyFlag(false);
 	}
 }
 

@@ -15,7 +15,11 @@ constexpr int64 FirstRead = 1024;
 bool FPackageReader::ReadAssets(const FString& Filename, FName PackageName, TArray<FAssetData>& OutAssets, FString& OutError)
 {
 	const TUniquePtr<IFileHandle> File = FPlatformFileManager::Get().GetPlatformFile().OpenRead(*Filename);
-	const int64 FileSize = File ? File->Size() : -1;
+	return ReadAssets(File.Get(), File ? File->Size() : -1, PackageName, OutAssets, OutError);
+}
+
+bool FPackageReader::ReadAssets(IFileHandle* File, int64 FileSize, FName PackageName, TArray<FAssetData>& OutAssets, FString& OutError)
+{
 	std::array<uint8, FirstRead> First;
 	const int64 FirstSize = FMath::Min(FileSize, FirstRead);
 	if (FirstSize < FPackagePrologue::Size || !File->Read(First.data(), FirstSize))

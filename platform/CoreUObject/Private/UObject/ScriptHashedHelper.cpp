@@ -1,4 +1,4 @@
-#include "UObject/SetProperty.h"
+#include "HashedValues.h"
 
 FScriptHashedHelper::FScriptHashedHelper(const FProperty* InKeyProp, const FProperty* InValueProp, const void* InSet)
 	: KeyProp(InKeyProp)
@@ -146,4 +146,40 @@ void FScriptHashedHelper::Reallocate(int32 Count)
 	Swap(Set->Slots, Larger);
 	Larger.SetNumUnsafe(0);
 	Larger.Reallocate(0, Layout.SlotSize, Layout.SlotAlignment);
+}
+
+void CopyElements(const FScriptHashedHelper& From, FScriptHashedHelper& To, const FProperty* ValueProp)
+{
+	To.EmptyElements();
+	for (int32 Index = 0; Index < From.GetMaxIndex(); ++Index)
+	{
+		const int32 Copy = From.IsValidIndex(Index) ? To.FindOrAdd(From.GetKeyPtr(Index)) : INDEX_NONE;
+		if (ValueProp && Copy != INDEX_NONE)
+		{
+			ValueProp->CopyCompleteValue(To.GetValuePtr(Copy), From.GetValuePtr(Index));
+		}
+	}
+}
+
+bool HaveIdenticalElements(const FScriptHashedHelper& One, const FScriptHashedHelper& Other, const FProperty& KeyProp,
+	const FProperty* ValueProp, uint32 PortFlags)
+{
+	if (One.Num() != Other.Num())
+	{
+		return false;
+	}
+	for (int32 Index = 0; Index < One.GetMaxIndex(); ++Index)
+	{
+		if (!One.IsValidIndex(Index))
+		{
+			continue;
+		}
+		const int32 Found = Other.FindIndex(One.GetKeyPtr(Index));
+		if (Found == INDEX_NONE || !KeyProp.Identical(One.GetKeyPtr(Index), Other.GetKeyPtr(Found), PortFlags) ||
+			(ValueProp && !ValueProp->Identical(One.GetValuePtr(Index), Other.GetValuePtr(Found), PortFlags)))
+		{
+			return false;
+		}
+	}
+	return true;
 }

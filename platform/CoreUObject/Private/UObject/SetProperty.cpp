@@ -1,5 +1,6 @@
 #include "UObject/SetProperty.h"
 
+#include "HashedValues.h"
 #include "PropertyText.h"
 #include "ScratchValue.h"
 
@@ -27,40 +28,14 @@ void FSetProperty::CopySingleValue(void* Dest, const void* Src) const
 	{
 		return;
 	}
-	const FScriptSetHelper From(this, Src);
 	FScriptSetHelper To(this, Dest);
-	To.EmptyElements();
-	for (int32 Index = 0; Index < From.GetMaxIndex(); ++Index)
-	{
-		if (From.IsValidIndex(Index))
-		{
-			To.AddElement(From.GetElementPtr(Index));
-		}
-	}
+	CopyElements(FScriptSetHelper(this, Src), To, nullptr);
 }
 
 bool FSetProperty::Identical(const void* A, const void* B, uint32 PortFlags) const
 {
 	const FScriptSetHelper One(this, A);
-	if (!B)
-	{
-		return One.Num() == 0;
-	}
-	const FScriptSetHelper Other(this, B);
-	if (One.Num() != Other.Num())
-	{
-		return false;
-	}
-	for (int32 Index = 0; Index < One.GetMaxIndex(); ++Index)
-	{
-		const int32 Found = One.IsValidIndex(Index) ? Other.FindIndex(One.GetElementPtr(Index)) : Index;
-		if (One.IsValidIndex(Index) &&
-			(Found == INDEX_NONE || !ElementProp->Identical(One.GetElementPtr(Index), Other.GetElementPtr(Found), PortFlags)))
-		{
-			return false;
-		}
-	}
-	return true;
+	return B ? HaveIdenticalElements(One, FScriptSetHelper(this, B), *ElementProp, nullptr, PortFlags) : One.Num() == 0;
 }
 
 void FSetProperty::Serialize(FArchive& Ar)

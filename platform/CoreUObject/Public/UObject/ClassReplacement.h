@@ -18,5 +18,10 @@ COREUOBJECT_API bool IsRetiredClass(const UClass* Class);
 /** Copies of another struct's own properties, behind those that are there. */
 COREUOBJECT_API void CopyOwnProperties(const UStruct* Source, UStruct* Target);
 
-/** Puts other objects in the place of some wherever objects refer to them, weakly, too, and in what is garbage. */
-COREUOBJECT_API void ReplaceAllReferences(const TMap<UObject*, UObject*>& Replacements);
+/**
+ * Puts other objects in the place of some wherever objects refer to them, weakly, too, and in what is garbage.
+ * @param Within the packages of which alone the objects are looked at, when no others can refer to them; all objects when empty
+ */
+COREUOBJECT_API void ReplaceAllReferences(const TMap<UObject*, UObject*>& Replacements, const TArray<UPackage*>& Within = {});
+/** The same in all objects but some. */
+COREUOBJECT_API void ReplaceAllReferencesBut(const TSet<const UObject*>& Untouched, const TMap<UObject*, UObject*>& Replacements);

@@ -132,8 +132,9 @@ enum ELoadFlags : uint32
 	LOAD_NoVerify = 0x00000080,
 	/** Nothing is logged. */
 	LOAD_Quiet = 0x00002000,
-	// What is in memory is found first in any case, and loading compiles nothing.
+	// What is in memory is found first in any case.
 	LOAD_FindIfFail = 0x00004000,
+	/** Blueprints have the classes from their files, even those that do not match any more. */
 	LOAD_DisableCompileOnLoad = 0x00400000,
 };
 

@@ -36,6 +36,17 @@ void FBPVariableDescription::RemoveMetaData(FName Key)
 	}
 }
 
+void (*UBlueprint::GenerateSkeleton)(UBlueprint* Blueprint) = nullptr;
+
+UClass* UBlueprint::GetSkeletonOrGeneratedClass() const
+{
+	if (bSkeletonOutdated && !bBeingCompiled)
+	{
+		GenerateSkeleton(const_cast<UBlueprint*>(this));
+	}
+	return SkeletonGeneratedClass ? SkeletonGeneratedClass : GeneratedClass;
+}
+
 void UBlueprint::GetAllGraphs(TArray<UEdGraph*>& Graphs) const
 {
 	const auto Add = [&Graphs](const TArray<TObjectPtr<UEdGraph>>& List)
@@ -95,26 +106,14 @@ void UBlueprint::GetAssetRegistryTags(FAssetRegistryTagsContext Context) const
 	Add(FName(TEXT("NativeParentClass")), Native);
 }
 
-bool UBlueprint::DoesClassMatch() const
-{
-	const UClass* const Class = GeneratedClass;
-	const bool bVariables = !NewVariables.ContainsByPredicate([Class](const FBPVariableDescription& Variable)
-		{ return Variable.DefaultValue != Variable.CompiledDefaultValue || !Class->FindPropertyByName(Variable.VarName); });
-	const bool bFunctions = !FunctionGraphs.ContainsByPredicate(
-		[Class](const UEdGraph* Graph) { return Graph && !Class->FindFunctionByName(Graph->GetFName(), false); });
-	return bVariables && bFunctions;
-}
-
 void UBlueprint::PostLoad()
 {
 	Super::PostLoad();
+	Status = BS_Unknown;
 	if (!ParentClass)
 	{
 		UE_LOG(LogBlueprint, Error, TEXT("%s: the parent class is gone; it derives from Object now"), *GetPathName());
 		ParentClass = UObject::StaticClass();
 		Status = BS_Error;
-		return;
 	}
-	const bool bDerives = GeneratedClass && GeneratedClass->GetSuperClass() == ParentClass;
-	Status = bDerives && DoesClassMatch() ? BS_UpToDate : BS_Dirty;
 }

@@ -13,6 +13,14 @@ UWorld* UWorld::CreateWorld(UPackage* InPackage, FName WorldName)
 	return World;
 }
 
+UWorld* UWorld::FindWorldInPackage(UPackage* Package)
+{
+	TArray<UObject*> Assets;
+	GetObjectsWithOuter(Package, Assets, false);
+	UObject* const* const World = Assets.FindByPredicate([](const UObject* Asset) { return Asset->IsA<UWorld>(); });
+	return World ? static_cast<UWorld*>(*World) : nullptr;
+}
+
 AWorldSettings* UWorld::GetWorldSettings() const
 {
 	for (AActor* const Actor : PersistentLevel->Actors)

@@ -138,8 +138,15 @@ public:
 	/** Being compiled at the moment. */
 	uint8 bBeingCompiled : 1 = 0;
 
+	/** Members have changed since the skeleton was made; who asks for it gets a new one. */
+	uint8 bSkeletonOutdated : 1 = 0;
+
 	UPROPERTY(Transient)
 	TEnumAsByte<EBlueprintStatus> Status = BS_Unknown;
+
+	/** What the last compile came to, whatever was changed since; a file remembers it. */
+	UPROPERTY()
+	TEnumAsByte<EBlueprintStatus> CompiledStatus = BS_UpToDate;
 
 	UPROPERTY()
 	TObjectPtr<USimpleConstructionScript> SimpleConstructionScript;
@@ -190,8 +197,10 @@ public:
 	/** Not in the middle of being made or compiled. */
 	bool IsPossiblyDirty() const { return Status == BS_Dirty || Status == BS_Unknown; }
 	FString GetFriendlyName() const { return GetName(); }
-	/** The class that graphs are written against: the skeleton, or else the generated one. */
-	UClass* GetSkeletonOrGeneratedClass() const { return SkeletonGeneratedClass ? SkeletonGeneratedClass : GeneratedClass; }
+	/** The class that graphs are written against: the skeleton, which is brought up to date, or else the generated one. */
+	UClass* GetSkeletonOrGeneratedClass() const;
+	/** Makes the skeleton; set by the compiler, which lies above. */
+	static void (*GenerateSkeleton)(UBlueprint* Blueprint);
 	/** The graphs of every kind, with those below them. */
 	virtual void GetAllGraphs(TArray<UEdGraph*>& Graphs) const;
 	UTimelineTemplate* FindTimelineTemplateByVariableName(FName TimelineName) const;
@@ -202,7 +211,7 @@ public:
 	virtual bool SupportedByDefaultBlueprintFactory() const { return true; }
 	/** Adds "GeneratedClass", "ParentClass" and "NativeParentClass": how the value of a class property would be written. */
 	void GetAssetRegistryTags(FAssetRegistryTagsContext Context) const override;
-	/** Loading compiles nothing: the class comes from the file. One whose parent is gone has an error. */
+	/** The class comes from the file, and nobody has judged it yet. One whose parent is gone has an error. */
 	void PostLoad() override;
 	DECLARE_MULTICAST_DELEGATE_OneParam(FChangedEvent, UBlueprint*);
 	FChangedEvent& OnChanged() { return ChangedEvent; }
@@ -211,9 +220,6 @@ public:
 	void BroadcastCompiled() { CompiledEvent.Broadcast(this); }
 
 private:
-	/** Whether the class in the file has the variables and functions that it is to have. */
-	bool DoesClassMatch() const;
-
 	FChangedEvent ChangedEvent;
 	FChangedEvent CompiledEvent;
 };

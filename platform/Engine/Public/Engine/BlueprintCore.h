@@ -12,7 +12,7 @@ class ENGINE_API UBlueprintCore : public UObject
 	GENERATED_BODY()
 
 public:
-	/** Functions and properties only, made whenever one is added, so that graphs can refer to them before the compile. */
+	/** Functions and properties only, so that graphs can refer to them before the compile; see UBlueprint::GetSkeletonOrGeneratedClass. */
 	UPROPERTY(Transient)
 	TSubclassOf<UObject> SkeletonGeneratedClass;
 

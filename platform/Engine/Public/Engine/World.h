@@ -56,6 +56,8 @@ public:
 
 	/** A world in a package of its own, with its level and settings. */
 	static UWorld* CreateWorld(UPackage* InPackage, FName WorldName);
+	/** Null when the package is no map. */
+	static UWorld* FindWorldInPackage(UPackage* Package);
 
 	AWorldSettings* GetWorldSettings() const;
 	/** Of the game in this world, in seconds. */

@@ -125,6 +125,35 @@ void FTransaction::KeepRecords(int32 Count)
 	Records.RemoveAt(Count, Records.Num() - Count);
 }
 
+void FTransaction::ForgetObjectsIn(const UPackage* Package, TArray<int32>& Counts)
+{
+	for (int32 Index = Records.Num() - 1; Index >= 0; --Index)
+	{
+		UObject* const Object = Records[Index].Object.Get();
+		if (Object->IsIn(Package))
+		{
+			Recorded.Remove(Object);
+			Records.RemoveAt(Index, 1);
+			for (int32& Count : Counts)
+			{
+				Count -= Index < Count ? 1 : 0;
+			}
+		}
+	}
+}
+
+void FTransaction::NoteNewPlace(const UObject* Object)
+{
+	for (FRecord& Record : Records)
+	{
+		if (Record.Object.Get() == Object)
+		{
+			Record.State.Name = Object->GetFName();
+			Record.State.Outer = TStrongObjectPtr<UObject>(Object->GetOuter());
+		}
+	}
+}
+
 void FTransaction::Apply()
 {
 	// Nothing that happens here is a change of its own.

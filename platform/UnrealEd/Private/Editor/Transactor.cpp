@@ -60,6 +60,31 @@ void UTransactor::DropUndone()
 	UndoCount = 0;
 }
 
+void UTransactor::ForgetObjectsIn(const UPackage* Package)
+{
+	TArray<int32> NoCounts;
+	for (const TSharedRef<FTransaction>& Transaction : Transactions)
+	{
+		Transaction->ForgetObjectsIn(Package, NoCounts);
+	}
+	if (Active)
+	{
+		Active->ForgetObjectsIn(Package, RecordCounts);
+	}
+}
+
+void UTransactor::NoteNewPlace(const UObject* Object)
+{
+	for (const TSharedRef<FTransaction>& Transaction : Transactions)
+	{
+		Transaction->NoteNewPlace(Object);
+	}
+	if (Active)
+	{
+		Active->NoteNewPlace(Object);
+	}
+}
+
 bool UTransactor::Undo(bool bCanRedo)
 {
 	if (!CanUndo())

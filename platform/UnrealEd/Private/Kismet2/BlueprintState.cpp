@@ -1,6 +1,5 @@
 // What changes make of a Blueprint, and what kind it is.
 
-#include "BlueprintCompilationManager.h"
 #include "GameFramework/Actor.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 
@@ -8,7 +7,7 @@ void FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(UBlueprint* Blue
 {
 	if (Blueprint->Status != BS_BeingCreated && !Blueprint->bBeingCompiled)
 	{
-		FBlueprintCompilationManager::GenerateSkeleton(Blueprint);
+		Blueprint->bSkeletonOutdated = true;
 	}
 	MarkBlueprintAsModified(Blueprint);
 }
@@ -22,6 +21,12 @@ void FBlueprintEditorUtils::MarkBlueprintAsModified(UBlueprint* Blueprint, FProp
 	Blueprint->Status = Blueprint->Status == BS_BeingCreated ? BS_BeingCreated : BS_Dirty;
 	Blueprint->MarkPackageDirty();
 	Blueprint->BroadcastChanged();
+}
+
+UClass* FBlueprintEditorUtils::GetSkeletonClass(const UBlueprint* Blueprint)
+{
+	Blueprint->GetSkeletonOrGeneratedClass();
+	return Blueprint->SkeletonGeneratedClass;
 }
 
 UClass* FBlueprintEditorUtils::GetMostUpToDateClass(UClass* FromClass)

@@ -1,18 +1,20 @@
 #pragma once
 
-#include "UObject/Object.h"
+#include "Engine/Engine.h"
 #include "EditorEngine.generated.h"
 
 class UTransactor;
 
-/** The editor: its undo buffer. Game thread. */
+/** The editor: its undo buffer and its commands, see EditorCommands.cpp. Game thread. */
 UCLASS(Transient)
-class UNREALED_API UEditorEngine : public UObject
+class UNREALED_API UEditorEngine : public UEngine
 {
 	GENERATED_BODY()
 
 public:
 	UEditorEngine();
+
+	bool Exec(UWorld* InWorld, const TCHAR* Cmd, FOutputDevice& Ar) override;
 
 	/** Undoes the newest transaction that is not undone. @return false when there is none, or one is open */
 	bool UndoTransaction(bool bCanRedo = true);

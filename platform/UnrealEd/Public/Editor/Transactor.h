@@ -5,6 +5,8 @@
 #include "UObject/StrongObjectPtr.h"
 #include "Transactor.generated.h"
 
+class UPackage;
+
 /** What is shown of a transaction. */
 struct FTransactionContext
 {
@@ -33,6 +35,13 @@ public:
 	void SaveObject(UObject* Object) override;
 	/** Gives each object the state that is recorded and records the one that it had: undo at first, then redo, and so on. */
 	void Apply();
+	/**
+	 * Drops what is recorded of objects in a package that is deleted: nothing brings them back.
+	 * @param Counts numbers of records, from the oldest, which become smaller by those among them that go
+	 */
+	void ForgetObjectsIn(const UPackage* Package, TArray<int32>& Counts);
+	/** An object has got another place for good: undo leaves it there. */
+	void NoteNewPlace(const UObject* Object);
 	/** Lets an archive of references see, and replace, what the records refer to. */
 	void SerializeReferences(FArchive& Ar);
 
@@ -93,6 +102,10 @@ public:
 	/** @return false when there is nothing to undo, or a transaction is open */
 	bool Undo(bool bCanRedo = true);
 	bool Redo();
+
+	/** See the functions of these names in FTransaction; the engine empties its buffer instead. */
+	void ForgetObjectsIn(const UPackage* Package);
+	void NoteNewPlace(const UObject* Object);
 
 	/** All transactions, the undone ones included. */
 	int32 GetQueueLength() const { return Transactions.Num(); }

@@ -121,11 +121,12 @@ public:
 
 	// State.
 
-	/** The skeleton is made anew; a compile is needed. */
+	/** The skeleton is made anew for the next who asks for it; a compile is needed. */
 	static void MarkBlueprintAsStructurallyModified(UBlueprint* Blueprint);
 	/** A compile is needed; the package is dirty. */
 	static void MarkBlueprintAsModified(UBlueprint* Blueprint, FPropertyChangedEvent* PropertyChangedEvent = nullptr);
-	static UClass* GetSkeletonClass(const UBlueprint* Blueprint) { return Blueprint->SkeletonGeneratedClass; }
+	/** Up to date, or null when there is none. */
+	static UClass* GetSkeletonClass(const UBlueprint* Blueprint);
 	/** The class most up to date: the skeleton, or the generated one where there is none. */
 	static UClass* GetMostUpToDateClass(UClass* FromClass);
 	static bool IsActorBased(const UBlueprint* Blueprint);

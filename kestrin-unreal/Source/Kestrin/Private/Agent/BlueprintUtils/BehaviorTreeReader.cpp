@@ -14,9 +14,17 @@
 #include "BehaviorTree/Tasks/BTTask_BlueprintBase.h"
 #include "JsonUtils.h"
 
+/** Reads one tree. */
 struct FKestrinBlueprintUtils::FBehaviorTreeReader
 {
 	using FValues = TArray<TSharedPtr<FJsonValue>>;
+
+	/** Trees that people make have some ten levels; each takes room on the stack here and wherever the document is written or read. */
+	static constexpr int32 MaxDepth = 1000;
+	int32 Depth = 0;
+	/** A damaged or hand-made asset may lead in circles. */
+	TSet<const UBTCompositeNode*> Composites;
+	bool bReadable = true;
 
 	static TSharedPtr<FJsonObject> ReadBlackboard(const UBlackboardData& Blackboard)
 	{
@@ -32,8 +40,15 @@ struct FKestrinBlueprintUtils::FBehaviorTreeReader
 		return Json;
 	}
 
-	static TSharedPtr<FJsonObject> ReadComposite(UBTCompositeNode& Composite)
+	TSharedPtr<FJsonObject> ReadComposite(UBTCompositeNode& Composite)
 	{
+		const TGuardValue<int32> Deeper(Depth, Depth + 1);
+		bReadable = bReadable && Depth <= MaxDepth && !Composites.Contains(&Composite);
+		Composites.Add(&Composite);
+		if (!bReadable)
+		{
+			return MakeShared<FJsonObject>();
+		}
 		const TSharedPtr<FJsonObject> Json = ReadNode(Composite);
 		Json->SetStringField(TEXT("NodeType"), TEXT("Composite"));
 		SetArrayUnlessEmpty(*Json, TEXT("AuxiliaryNodes"), ReadAuxiliaryNodes(Composite));
@@ -154,9 +169,16 @@ FString FKestrinBlueprintUtils::ReadBehaviorTree(const FString& BehaviorTreeName
 	{
 		Document->SetObjectField(TEXT("Blackboard"), FBehaviorTreeReader::ReadBlackboard(*Tree->BlackboardAsset));
 	}
+	FBehaviorTreeReader Reader;
 	if (Tree->RootNode)
 	{
-		Document->SetObjectField(TEXT("RootNode"), FBehaviorTreeReader::ReadComposite(*Tree->RootNode));
+		Document->SetObjectField(TEXT("RootNode"), Reader.ReadComposite(*Tree->RootNode));
+	}
+	if (!Reader.bReadable)
+	{
+		return SerializeMessage(TEXT("Error"),
+			FString::Printf(TEXT("BehaviorTree '%s' can't be read: it has more than %d levels, or a node twice."), *BehaviorTreeName,
+				FBehaviorTreeReader::MaxDepth));
 	}
 	return SerializeJson(Document);
 }

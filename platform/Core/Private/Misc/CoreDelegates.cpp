@@ -1,0 +1,3 @@
+#include "Misc/CoreDelegates.h"
+
+TMulticastDelegate<> FCoreDelegates::OnBeginFrame;
