@@ -17,6 +17,7 @@ TEST_F(EngineTools, ShowTheirLineAndMissTheirFieldsInOrder)
 	const std::string Fields = "Error: Missing required fields";
 	const std::string Creating = "progress|Creating Blueprint File ...";
 	const std::string Reading = "progress|Reading Blueprint Asset ...";
+	const std::string Modifying = "progress|Modifying Blueprint File ...";
 	const std::string Tree = "progress|Reading Behavior Tree File ...";
 	const struct
 	{
@@ -33,6 +34,10 @@ TEST_F(EngineTools, ShowTheirLineAndMissTheirFieldsInOrder)
 		{ "read_blueprint", "{}", Reading, Fields + ": blueprint_name" },
 		{ "read_blueprint", R"({"blueprint_name":"BP_X"})", Reading, Fields + ": data_subset" },
 		{ "READ_Blueprint", R"({"blueprint_name":"BP_X","data_subset":["All"]})", Reading, Fields + ": data_subset" },
+		{ "modify_blueprint_variables", R"({"updates":"{}"})", Modifying, Fields + " - blueprint_name" },
+		{ "modify_blueprint_variables", R"({"blueprint_name":"BP_X","updates":{}})", Modifying, Fields + ": updates" },
+		{ "modify_blueprint_variables", R"({"blueprint_name":"BP_X","updates":"{}"})", Modifying,
+			R"({"Error":"Blueprint 'BP_X' not found."})" },
 		{ "read_behavior_tree", R"({"blueprint_name":"BT_X"})", Tree, Fields },
 		{ "read_blueprint", R"({"blueprint_name":"BP_X","data_subset":"All"})", Reading, R"({"Error":"Blueprint 'BP_X' not found."})" },
 		{ "read_behavior_tree", R"({"behavior_tree_name":"BT_X"})", Tree, R"({"Error":"BehaviorTree 'BT_X' not found."})" },

@@ -66,7 +66,10 @@ TEST(DemoScenario, LeadsFromTheFirstPromptToTheEnd)
 	EXPECT_EQ(Demo.SendResults("Successfully deleted file"), "+ finish");
 	EXPECT_EQ(Demo.SendResults("Finished"), "+");
 	EXPECT_EQ(Demo.Send({ { "message", "More" } }), " insert_into_file update_file");
-	EXPECT_EQ(Demo.SendResults("Successfully updated file"), "+ finish");
+	EXPECT_EQ(Demo.SendResults("Successfully updated file"), " read_blueprint");
+	EXPECT_EQ(Demo.SendResults(R"({"Variables":{"OilLeft":{}}})"), " modify_blueprint_variables");
+	EXPECT_EQ(Demo.SendResults("Blueprint modified, compiled, and saved successfully."), " read_blueprint");
+	EXPECT_EQ(Demo.SendResults(R"({"Functions":[{"Name":"Welcome"}]})"), "+ finish");
 	EXPECT_EQ(Demo.SendResults("Finished"), "+");
 }
 }

@@ -2,6 +2,7 @@
 
 #include "Agent/BlueprintUtils.h"
 #include "AssetRegistry/AssetData.h"
+#include "EdGraph/EdGraphNode.h"
 #include "Support/TestProject.h"
 
 /** The parts of the plug-in's Blueprint code that only it can call itself; documents are given and taken as text. */
@@ -30,6 +31,22 @@ struct FKestrinBlueprintUtilsTestAccess
 		return ToUtf8(FUtils::GetPropertyValueAsString(Container, Property));
 	}
 	static std::string ReadGraph(const UEdGraph* Graph) { return ToText(FUtils::ReadEdGraph(Graph)); }
+
+	using FSectionOperation = bool (*)(UBlueprint*, const TArray<TSharedPtr<FJsonValue>>&, TSharedPtr<FJsonObject>&);
+	static constexpr FSectionOperation Functions = &FUtils::ModifyBlueprintFunctions;
+	static constexpr FSectionOperation Graphs = &FUtils::ModifyBlueprintGraphs;
+	static constexpr FSectionOperation Components = &FUtils::ModifyBlueprintComponents;
+	static constexpr FSectionOperation Interfaces = &FUtils::ModifyBlueprintInterfaces;
+	static constexpr FSectionOperation Delegates = &FUtils::ModifyBlueprintDelegates;
+	static constexpr FSectionOperation Timelines = &FUtils::ModifyBlueprintTimelines;
+	static constexpr FSectionOperation Animations = &FUtils::ModifyBlueprintAnimations;
+	/** @return "changed " or "same ", and the result object */
+	static std::string Apply(FSectionOperation Operation, UBlueprint* Blueprint, std::string_view Entries);
+	static UEdGraphNode* CreateNode(std::string_view Entry, UEdGraph* Graph) { return FUtils::CreateEdGraphNode(Parse(Entry), Graph); }
+	static bool ModifyNode(UEdGraphNode* Node, std::string_view Entry)
+	{
+		return FUtils::ModifyNodeProperties(Node, *Parse(Entry), Node ? Node->GetGraph() : nullptr);
+	}
 
 private:
 	static std::string ToText(const TSharedPtr<FJsonObject>& Json) { return ToUtf8(FUtils::SerializeJson(Json)); }

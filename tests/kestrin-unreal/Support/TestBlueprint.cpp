@@ -132,6 +132,14 @@ TSharedPtr<FJsonObject> FKestrinBlueprintUtilsTestAccess::Parse(std::string_view
 	return ParseDocument(Json);
 }
 
+std::string FKestrinBlueprintUtilsTestAccess::Apply(FSectionOperation Operation, UBlueprint* Blueprint, std::string_view Entries)
+{
+	const TSharedPtr<FJsonObject> Section = Parse("{\"Entries\":" + std::string(Entries) + "}");
+	TSharedPtr<FJsonObject> Result = MakeShared<FJsonObject>();
+	const bool bChanged = Operation(Blueprint, Section->GetArrayField(TEXT("Entries")), Result);
+	return (bChanged ? "changed " : "same ") + ToText(Result);
+}
+
 TSharedPtr<FJsonObject> ParseDocument(std::string_view Json)
 {
 	TSharedPtr<FJsonObject> Object;

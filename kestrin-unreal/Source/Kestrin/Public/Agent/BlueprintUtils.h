@@ -9,10 +9,13 @@ class UBehaviorTree;
 class UBlueprint;
 class UClass;
 class UEdGraph;
+class UEdGraphNode;
 struct FAssetData;
+struct FSectionEntry;
+struct FSectionWork;
 
 /**
- * How the assistant sees Blueprints and behavior trees, and makes, saves and compiles Blueprints. Assets go by their short names,
+ * How the assistant sees Blueprints and behavior trees, and makes, changes, saves and compiles Blueprints. Assets go by their short names,
  * ignoring case; of several with one name the first that the Asset Registry lists is meant. Answers are condensed JSON with keys in
  * a fixed order, but for CreateBlueprintAsset; a failure is a document with the single key "Error". Game thread.
  */
@@ -35,6 +38,13 @@ public:
 	 * @return a line that begins with "Success:" or "Error:"
 	 */
 	static FString CreateBlueprintAsset(const FString& PackagePath, const FString& BlueprintName, const FString& ParentClassName);
+	/**
+	 * Changes, compiles and saves a Blueprint, inside one transaction.
+	 * @param Document {Variables: {Name: {Type, Replication, Category, Tooltip, Value, ExposeOnSpawn, Private, SaveGame}},
+	 *        Functions: [{Name, InParams, OutParams, EdGraph: {Nodes}}]}; other keys, and a section of another type, are passed over
+	 * @return {VariableModifications: [], FunctionModifications: [], and one of Success, Message (nothing changed) or Error}
+	 */
+	static FString ModifyBlueprint(const FString& BlueprintName, const FString& Document);
 	/** @return {Success} or {Error} */
 	static FString SaveBlueprint(UObject* Object);
 	/** Warnings count as a failure. @return {Success} or {Error} */
@@ -77,6 +87,32 @@ private:
 	 * @param Container an object of the class
 	 */
 	static TSharedPtr<FJsonObject> ReadProperties(const UClass* Class, UObject* Container);
+
+	// The sections of a modification document. Each puts its messages into the result, says with "Error" why it can't work on the
+	// Blueprint, and answers whether anything changed. What one entry does never stops the next.
+	using FSectionEntries = TArray<TSharedPtr<FJsonValue>>;
+	static bool ModifyBlueprintVariables(UBlueprint* Blueprint, const FJsonObject& Section, TSharedPtr<FJsonObject>& Result);
+	static bool ModifyBlueprintFunctions(UBlueprint* Blueprint, const FSectionEntries& Section, TSharedPtr<FJsonObject>& Result);
+	static bool ModifyBlueprintGraphs(UBlueprint* Blueprint, const FSectionEntries& Section, TSharedPtr<FJsonObject>& Result);
+	static bool ModifyBlueprintComponents(UBlueprint* Blueprint, const FSectionEntries& Section, TSharedPtr<FJsonObject>& Result);
+	static bool ModifyBlueprintInterfaces(UBlueprint* Blueprint, const FSectionEntries& Section, TSharedPtr<FJsonObject>& Result);
+	static bool ModifyBlueprintDelegates(UBlueprint* Blueprint, const FSectionEntries& Section, TSharedPtr<FJsonObject>& Result);
+	static bool ModifyBlueprintTimelines(UBlueprint* Blueprint, const FSectionEntries& Section, TSharedPtr<FJsonObject>& Result);
+	static bool ModifyBlueprintAnimations(UBlueprint* Blueprint, const FSectionEntries& Section, TSharedPtr<FJsonObject>& Result);
+
+	/** A graph of that name is left alone. @param FunctionName "OnRep_" and the variable's name */
+	static void CreateRepNotifyFunction(UBlueprint* Blueprint, const FString& FunctionName);
+	/** With its parameters. @return null when the engine refuses the name */
+	static UEdGraph* CreateFunction(FSectionWork& Work, const FSectionEntry& Entry);
+	/** The nodes under the key "Nodes", each with its links before the next. @return whether anything was set on one of them */
+	static bool AddNodes(const FJsonObject& Parent, UEdGraph* Graph);
+	/** @param Entry {Class, Location, Properties} @return null for what can't be made */
+	static UEdGraphNode* CreateEdGraphNode(const TSharedPtr<FJsonObject>& Entry, UEdGraph* Graph);
+	/**
+	 * @param Entry {Properties: {Comment, Pins: [{PinName, Value, Direction, Connections: [{Node, Pin}]}]}}
+	 * @return whether anything was set
+	 */
+	static bool ModifyNodeProperties(UEdGraphNode* Node, const FJsonObject& Entry, UEdGraph* Graph);
 
 	static FString SerializeJson(const TSharedPtr<FJsonObject>& JsonObject);
 	/** A document with a single key. */

@@ -2,6 +2,7 @@
 #include "AssetLookup.h"
 #include "AssetRegistry/IAssetRegistry.h"
 #include "AssetToolsModule.h"
+#include "BlueprintPackage.h"
 #include "Engine/Blueprint.h"
 #include "Factories/BlueprintFactory.h"
 #include "JsonUtils.h"
@@ -12,19 +13,6 @@
 namespace
 {
 const TCHAR* const InvalidAsset = TEXT("Provided asset is not a valid Blueprint.");
-
-bool SavePackage(UBlueprint* Blueprint)
-{
-	UPackage* const Package = Blueprint->GetOutermost();
-	const FString FileName = FPackageName::LongPackageNameToFilename(Package->GetName(), FPackageName::GetAssetPackageExtension());
-	FSavePackageArgs Args;
-	Args.TopLevelFlags = RF_Standalone;
-	Args.SaveFlags = SAVE_NoError;
-	Args.Error = GError;
-	Args.bForceByteSwapping = true;
-	Args.bWarnOfLongFilename = true;
-	return UPackage::Save(Package, Blueprint, *FileName, Args).Result == ESavePackageResult::Success;
-}
 
 /** Null unless the asset is a Blueprint that lies in a package of its own and was changed. */
 UBlueprint* LoadIfDirty(const FAssetData& Asset)
@@ -47,6 +35,19 @@ bool AddStep(FJsonObject& Entry, const FString& Answer, const TCHAR* ErrorKey, c
 	Entry.SetStringField(bFailed ? ErrorKey : SuccessKey, bFailed ? Error : Json->GetStringField(TEXT("Success")));
 	return bFailed;
 }
+}
+
+bool SaveBlueprintPackage(UBlueprint* Blueprint)
+{
+	UPackage* const Package = Blueprint->GetOutermost();
+	const FString FileName = FPackageName::LongPackageNameToFilename(Package->GetName(), FPackageName::GetAssetPackageExtension());
+	FSavePackageArgs Args;
+	Args.TopLevelFlags = RF_Standalone;
+	Args.SaveFlags = SAVE_NoError;
+	Args.Error = GError;
+	Args.bForceByteSwapping = true;
+	Args.bWarnOfLongFilename = true;
+	return UPackage::Save(Package, Blueprint, *FileName, Args).Result == ESavePackageResult::Success;
 }
 
 FString FKestrinBlueprintUtils::CreateBlueprintAsset(
@@ -75,7 +76,7 @@ FString FKestrinBlueprintUtils::SaveBlueprint(UObject* Object)
 	{
 		return SerializeMessage(TEXT("Error"), InvalidAsset);
 	}
-	if (!SavePackage(Blueprint))
+	if (!SaveBlueprintPackage(Blueprint))
 	{
 		return SerializeMessage(TEXT("Error"), FString::Printf(TEXT("Failed to save Blueprint asset: %s"), *Blueprint->GetPathName()));
 	}
