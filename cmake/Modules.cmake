@@ -15,7 +15,7 @@ function(kestrin_module Name)
 		set(Root ${Arg_ROOT})
 	endif()
 	file(GLOB_RECURSE Sources CONFIGURE_DEPENDS ${Root}/Private/*.cpp ${Root}/Host/*.cpp)
-	file(GLOB_RECURSE PublicHeaders CONFIGURE_DEPENDS ${Root}/Public/*.h)
+	file(GLOB_RECURSE Headers CONFIGURE_DEPENDS ${Root}/Public/*.h ${Root}/Private/*.h)
 
 	add_library(${Name} SHARED ${Sources})
 	set_target_properties(${Name} PROPERTIES OUTPUT_NAME ${KESTRIN_MODULE_PREFIX}${Name})
@@ -43,7 +43,7 @@ function(kestrin_module Name)
 	target_precompile_headers(${Name} PRIVATE <CoreMinimal.h>)
 	# A precompiled header from the cache of another checkout holds other time stamps, with which "#pragma once" fails.
 	set_target_properties(${Name} PROPERTIES CXX_COMPILER_LAUNCHER "")
-	kestrin_reflect(${Name} ${Root} ${PublicHeaders})
+	kestrin_reflect(${Name} ${Root} ${Headers})
 endfunction()
 
 # Runs the header tool over those headers that include their own .generated.h.

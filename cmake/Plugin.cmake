@@ -6,6 +6,6 @@ kestrin_module(Kestrin HIDDEN
 	ROOT ${PluginSource}/Source/Kestrin
 	OUTPUT_DIRECTORY ${PluginFolder}/Binaries/Linux
 	DEPENDS Core CoreUObject Json Engine
-	LIBRARIES AIModule AssetRegistry AssetTools BlueprintGraph HTTP Settings UnrealEd)
+	LIBRARIES AIModule AssetRegistry AssetTools BlueprintGraph HotReload HTTP LiveCoding PythonScriptPlugin Settings SourceControl UnrealEd)
 
 configure_file(${PluginSource}/Kestrin.uplugin ${PluginFolder}/Kestrin.uplugin COPYONLY)

@@ -7,7 +7,8 @@ fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 packages=(
 	g++ cmake ninja-build ccache pkg-config
 	libcurl4-openssl-dev libssl-dev libcpp-httplib-dev nlohmann-json3-dev libre2-dev zlib1g-dev
-	libgtest-dev libgmock-dev
+	libgtest-dev libgmock-dev git libgit2-dev
+	python3-dev pybind11-dev
 )
 
 install_missing() {

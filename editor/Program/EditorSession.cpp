@@ -3,6 +3,7 @@
 #include "CoreHost/Clock.h"
 #include "CoreHost/LogDevice.h"
 #include "CoreHost/Project.h"
+#include "HAL/FileManager.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "ProjectDescriptor.h"
@@ -62,9 +63,9 @@ FString ChoosePluginFolder()
 }
 
 /** Loads what a descriptor names from its folder's binaries. @return whether all of it is there */
-bool LoadModules(const FString& Folder, const TArray<FModuleDescriptor>& Modules)
+bool LoadModules(const FString& Folder, const TArray<FModuleDescriptor>& Modules, bool bGame)
 {
-	FModuleManager::Get().AddBinariesDirectory(*GetBinariesDirectory(Folder));
+	FModuleManager::Get().AddBinariesDirectory(*GetBinariesDirectory(Folder), bGame);
 	bool bAll = true;
 	for (const FModuleDescriptor& Module : Modules)
 	{
@@ -77,7 +78,7 @@ bool LoadModules(const FString& Folder, const TArray<FModuleDescriptor>& Modules
 void LoadEngine()
 {
 	for (const TCHAR* const Module : { TEXT("Settings"), TEXT("Engine"), TEXT("BlueprintGraph"), TEXT("AIModule"), TEXT("UnrealEd"),
-			 TEXT("AssetRegistry"), TEXT("AssetTools") })
+			 TEXT("AssetRegistry"), TEXT("AssetTools"), TEXT("EditorScriptingUtilities"), TEXT("PythonScriptPlugin") })
 	{
 		FModuleManager::Get().LoadModule(Module);
 	}
@@ -91,7 +92,9 @@ bool OpenProject(const FString& ProjectFile, FText& OutError)
 		return false;
 	}
 	FHostProject::Set(ProjectFile);
-	if (!LoadModules(FPaths::ProjectDir().LeftChop(1), Descriptor.Modules))
+	// The editor's log may go elsewhere; others put theirs where it would be.
+	IFileManager::Get().MakeDirectory(*FPaths::ProjectLogDir(), true);
+	if (!LoadModules(FPaths::ProjectDir().LeftChop(1), Descriptor.Modules, true))
 	{
 		UE_LOG(LogEditor, Warning, TEXT("The project's own modules are not all built for this editor; their classes are not there."));
 	}
@@ -105,7 +108,7 @@ bool LoadPlugin(const FString& Folder, FText& OutError)
 	{
 		return false;
 	}
-	if (!LoadModules(Folder, Plugin->GetDescriptor().Modules))
+	if (!LoadModules(Folder, Plugin->GetDescriptor().Modules, false))
 	{
 		OutError = FText::FromString(FString::Printf(TEXT("%s: the plug-in does not load; the log says why"), *Folder));
 		return false;

@@ -125,6 +125,20 @@ TEST(CommandLine, CallsToolsInOrder)
 	}
 }
 
+TEST(CommandLine, WaitsForACompileThatGoesOnInTheBackground)
+{
+	const Project Toy;
+	Toy.Write("Config/DefaultEditorPerProjectUserSettings.ini", "[/Script/LiveCoding.LiveCodingSettings]\nbEnabled=False\n");
+	const Ending Result = RunEditor({ Toy.GetFile(), "--call", "compile", "{}", "--call", "finish", "{}" });
+	EXPECT_EQ(Result.Code, 0);
+	EXPECT_EQ(Result.Out,
+		R"({"tool":"compile","content":"Toy has no C++ modules: there is nothing to compile\n\n)"
+		R"([LogCompile] Toy has no C++ modules: there is nothing to compile","is_error":false})"
+		"\n"
+		R"({"tool":"finish","content":"Finished","is_error":false})"
+		"\n");
+}
+
 TEST(CommandLine, CallsNothingWithInputThatIsNoJson)
 {
 	const Project Toy;

@@ -11,6 +11,7 @@ using Lines = std::vector<std::string>;
 using Files = std::map<std::string, std::string>;
 
 const std::string Bom = "\xef\xbb\xbf";
+const std::string Compiled = "progress|Compilation successful!";
 
 struct Call
 {
@@ -125,10 +126,10 @@ TEST(Undo, RestoresTheFilesOfAConversationAndRedoBringsItsChangesBack)
 	After["Files/Grown.h"] = "grown";
 	for (int Round = 0; Round < 2; ++Round)
 	{
-		EXPECT_EQ(Conversation.Undo(), Lines{ "progress|Undoing Last Changes..." });
+		EXPECT_EQ(Conversation.Undo(), (Lines{ "progress|Undoing Last Changes...", Compiled }));
 		EXPECT_EQ(Conversation.Toy.ReadAll("Files"), Restored);
 		EXPECT_EQ(Conversation.Offers(), "redo");
-		EXPECT_EQ(Conversation.Redo(), Lines{ "progress|Redoing Last Changes..." });
+		EXPECT_EQ(Conversation.Redo(), (Lines{ "progress|Redoing Last Changes...", Compiled }));
 		EXPECT_EQ(Conversation.Toy.ReadAll("Files"), After);
 		EXPECT_EQ(Conversation.Offers(), "undo");
 	}

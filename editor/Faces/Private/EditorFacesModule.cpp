@@ -2,6 +2,7 @@
 
 #include "CallFace.h"
 #include "HeadlessFace.h"
+#include "JsonLine.h"
 #include "Modules/ModuleManager.h"
 #include "TerminalFace.h"
 
@@ -12,6 +13,10 @@ class FEditorFacesModule final : public IEditorFaces
 public:
 	int32 Run(const FFaceOptions& Options) override
 	{
+		if (Options.Face != EEditorFace::Terminal)
+		{
+			TakeStandardOutput();
+		}
 		switch (Options.Face)
 		{
 		case EEditorFace::Headless:

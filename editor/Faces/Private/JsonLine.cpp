@@ -3,6 +3,24 @@
 #include "Serialization/JsonSerializer.h"
 
 #include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace
+{
+std::FILE* Output = stdout;
+}
+
+void TakeStandardOutput()
+{
+	const int Kept = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+	std::FILE* const Stream = Kept < 0 ? nullptr : ::fdopen(Kept, "w");
+	if (Stream)
+	{
+		Output = Stream;
+		::dup2(STDERR_FILENO, STDOUT_FILENO);
+	}
+}
 
 void WriteJsonLine(const TSharedRef<FJsonObject>& Object)
 {
@@ -11,8 +29,8 @@ void WriteJsonLine(const TSharedRef<FJsonObject>& Object)
 	std::string Line = FUtf8::Encode(Text);
 	Line.push_back('\n');
 	// A reader who has gone away is no concern of the conversation's.
-	std::fwrite(Line.data(), 1, Line.size(), stdout);
-	std::fflush(stdout);
+	std::fwrite(Line.data(), 1, Line.size(), Output);
+	std::fflush(Output);
 }
 
 TSharedPtr<FJsonObject> ReadJsonObject(const FString& Text, FString& OutError)
