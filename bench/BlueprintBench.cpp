@@ -245,7 +245,7 @@ void ReadAllTenTimes(benchmark::State& State)
 			}
 			Before = Round == 0 ? AllocatedMemory() : Before;
 		}
-		State.counters["grown MiB"] = (AllocatedMemory() - Before) / (1 << 20);
+		State.counters["grown MiB"] = AllocatedMemory() - Before;
 	}
 	CollectGarbage(RF_NoFlags);
 }

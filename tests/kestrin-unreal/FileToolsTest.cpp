@@ -60,7 +60,7 @@ TEST(ToolTable, MissingFieldsShowTheLineAndAnswerTheirText)
 		{ "delete_cpp_file", R"({"filepath":"x"})", "Deleting File...", Fields },
 		{ "READ_file", R"({"path":null})", "Reading File...", Path },
 		{ "get_filesystem_tree", "{}", nullptr, "Error: Missing dir_path field" },
-		{ "compile", "{}", nullptr, "Error: Unknown tool 'compile'" },
+		{ "modify_behavior_tree", "{}", nullptr, "Error: Unknown tool 'modify_behavior_tree'" },
 	};
 	FOpenConversation Talk;
 	for (const FCase& Case : Cases)

@@ -153,7 +153,7 @@ TEST_F(UndoTransactions, GoWithTheFilesOfTheirConversation)
 	}
 	EXPECT_TRUE(Interface().CanUndo());
 	Interface().UndoLastOperation();
-	EXPECT_EQ(Talk.Chat, std::vector<std::string>{ "progress|Undoing Last Changes..." });
+	EXPECT_EQ(Talk.Chat, (std::vector<std::string>{ "progress|Undoing Last Changes...", "progress|Compilation successful!" }));
 	EXPECT_EQ(Talk.Project.Read("a.txt"), Mark + "old");
 	EXPECT_TRUE(Lamp->NewVariables.IsEmpty());
 	EXPECT_FALSE(Lamp->GetOutermost()->IsDirty()) << "the restored state is saved";

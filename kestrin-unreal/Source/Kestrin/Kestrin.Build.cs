@@ -22,8 +22,12 @@ public class Kestrin : ModuleRules
 			"AssetRegistry",
 			"AssetTools",
 			"BlueprintGraph",
+			"HotReload",
 			"HTTP",
+			"LiveCoding",
+			"PythonScriptPlugin",
 			"Settings",
+			"SourceControl",
 			"UnrealEd",
 		});
 	}

@@ -2,6 +2,7 @@
 
 #include "API/HTTPAPI.h"
 #include "Agent/ChatLines.h"
+#include "Agent/CompilationManager.h"
 #include "Agent/FileHistory.h"
 #include "Agent/FileUtils.h"
 #include "JsonUtils.h"
@@ -16,6 +17,7 @@ FAgent& FAgent::Get()
 
 FAgent::FAgent()
 {
+	CompilationFinishedHandle = FCompilationManager::OnCompilationFinishedDelegate.AddRaw(this, &FAgent::OnCompilationFinished);
 	FHttpApi& Api = FHttpApi::Get();
 	Api.OnStatusMessage.BindLambda([](FString Text, FLinearColor Color, FName FontName, float FontSize)
 		{ FKestrinInterface::Get().OnAddStatusMessage(Text, Color, FontName, FontSize); });
@@ -28,6 +30,7 @@ FAgent::FAgent()
 
 FAgent::~FAgent()
 {
+	FCompilationManager::OnCompilationFinishedDelegate.Remove(CompilationFinishedHandle);
 	FHttpApi& Api = FHttpApi::Get();
 	Api.OnStatusMessage.Unbind();
 	Api.OnRequestFailed.Unbind();

@@ -1,4 +1,4 @@
-#include "Agent/Agent.h"
+#include "Agent/AgentTools.h"
 
 #include "API/HTTPAPI.h"
 #include "Agent/ChatLines.h"
@@ -142,7 +142,10 @@ void FAgent::ExecuteTool(TSharedPtr<FJsonObject> Block)
 	const FString Name = GetOptionalString(*Block, TEXT("name"));
 	const FString Id = GetOptionalString(*Block, TEXT("id"));
 	const FString Content = RunTool(Name, Id, AsOptionalObject(Block->TryGetField(TEXT("input"))));
-
+	if (Name.Equals(CompileToolName, ESearchCase::IgnoreCase))
+	{
+		return; // also without input: that call is never answered
+	}
 	const TSharedRef<FJsonObject> Result = MakeToolResult(Id, Content);
 	Result->SetBoolField(TEXT("is_error"), FFileUtils::IsFailure(Content));
 	AddToolResult(MakeShared<FJsonValueObject>(Result));
@@ -153,4 +156,17 @@ void FAgent::AbortTool(TSharedPtr<FJsonObject> Block)
 	const TSharedRef<FJsonObject> Result = MakeToolResult(GetOptionalString(*Block, TEXT("id")), TEXT("Abort: User added new input"));
 	Result->SetBoolField(TEXT("is_abort"), true);
 	AddToolResult(MakeShared<FJsonValueObject>(Result));
+}
+
+void FAgent::OnCompilationFinished(const TArray<TSharedPtr<FJsonObject>>& Messages, FString ToolId, FString Output, bool bSuccess)
+{
+	const TSharedRef<FJsonObject> Result = MakeToolResult(ToolId, Output);
+	Result->SetBoolField(TEXT("is_error"), !bSuccess);
+	AddToolResult(MakeShared<FJsonValueObject>(Result));
+
+	const TSharedRef<FJsonObject> Message = MakeShared<FJsonObject>();
+	Message->SetStringField(TEXT("role"), TEXT("user"));
+	Message->SetArrayField(TEXT("content"), ToolResults);
+	AddConversationMessage(MakeShared<FJsonValueObject>(Message));
+	ShowProgressLine(bSuccess ? TEXT("Compilation successful!") : TEXT("Compilation failed, processing error..."));
 }

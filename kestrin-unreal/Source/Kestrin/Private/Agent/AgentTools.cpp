@@ -27,6 +27,9 @@ const TArray<FAgent::FTool>& FAgent::FToolTable::Get()
 {
 	static const TArray<FTool> Table = {
 		{ TEXT("finish"), nullptr, {}, &FAgent::HandleFinish },
+		{ CompileToolName, TEXT("Compiling..."), {}, &FAgent::HandleCompile },
+		{ TEXT("execute_unreal_engine_api_python_script"), TEXT("Executing Unreal Engine Api Python Script ..."),
+			{ { TEXT("code"), TEXT("Error: Missing code field") } }, &FAgent::HandleExecutePythonScript },
 		{ TEXT("create_file"), TEXT("Creating File..."), { { TEXT("path"), MissingFields }, { TEXT("file_text"), MissingFields } },
 			&FAgent::HandleCreateFile },
 		{ TEXT("create_cpp_file"), nullptr, { { TEXT("filepath"), MissingFields }, { TEXT("filename"), MissingFields } },
@@ -51,10 +54,16 @@ const TArray<FAgent::FTool>& FAgent::FToolTable::Get()
 			{ { TEXT("blueprint_name"), TEXT("Error: Missing required fields: blueprint_name") },
 				{ TEXT("data_subset"), TEXT("Error: Missing required fields: data_subset") } },
 			&FAgent::HandleReadBlueprint },
+		{ TEXT("modify_blueprint_variables"), TEXT("Modifying Blueprint File ..."),
+			{ { TEXT("blueprint_name"), TEXT("Error: Missing required fields - blueprint_name") },
+				{ TEXT("updates"), TEXT("Error: Missing required fields: updates") } },
+			&FAgent::HandleModifyBlueprintVariables },
 		{ TEXT("read_behavior_tree"), TEXT("Reading Behavior Tree File ..."), { { TEXT("behavior_tree_name"), MissingFields } },
 			&FAgent::HandleReadBehaviorTree },
 		{ TEXT("save_and_compile_all_dirty_blueprints"), TEXT("Saving and compiling all dirty blueprints ..."), {},
 			&FAgent::HandleSaveAndCompileAllDirtyBlueprints },
+		{ TEXT("find_reference_in_all_files"), TEXT("Finding Reference In All Files ..."), { { TEXT("reference_string"), MissingFields } },
+			&FAgent::HandleFindReferenceInAllFiles },
 	};
 	return Table;
 }

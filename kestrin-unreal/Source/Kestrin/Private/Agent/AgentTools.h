@@ -2,6 +2,9 @@
 
 #include "Agent/Agent.h"
 
+/** The one tool whose result takes a way of its own, see FAgent::StartCompilation. */
+inline const TCHAR* const CompileToolName = TEXT("compile");
+
 /** A tool as the service calls it. */
 struct FAgent::FTool
 {

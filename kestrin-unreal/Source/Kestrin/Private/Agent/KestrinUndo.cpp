@@ -95,6 +95,7 @@ void FKestrinInterface::UndoLastOperation()
 	{
 		return;
 	}
+	Agent.StartCompilation(TEXT("Undo"), Agent.GetConversationMessages());
 	// What was undone in the editor the user can only redo there.
 	Agent.SetRedoConversationId(bTransactionsUndone ? FString() : Id);
 	Agent.SetUndoConversationId(FString());
@@ -113,6 +114,7 @@ void FKestrinInterface::RedoLastOperation()
 	{
 		return;
 	}
+	Agent.StartCompilation(TEXT("Redo"), Agent.GetConversationMessages());
 	Agent.SetUndoConversationId(Id);
 	Agent.SetRedoConversationId(FString());
 }

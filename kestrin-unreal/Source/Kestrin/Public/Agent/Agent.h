@@ -137,6 +137,13 @@ public:
 	/** Runs the tool of that name, ignoring case. @return its text; one that begins with "Error:" is a failure */
 	FString RunTool(const FString& ToolName, const FString& ToolId, TSharedPtr<FJsonObject> Input);
 
+	/**
+	 * Compiles the project's C++. Its result {type, tool_use_id, content, is_error} joins the others when the compile has ended: before the
+	 * call returns or later, and then it waits for the next request.
+	 * @param Messages those that are objects go to the compiler's manager
+	 */
+	void StartCompilation(FString ToolId, const TArray<TSharedPtr<FJsonValue>>& Messages);
+
 private:
 	FAgent();
 
@@ -158,9 +165,11 @@ private:
 	EAgentState StateAfterAnswer() const;
 
 	FString RunTool(const FTool& Tool, const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	void OnCompilationFinished(const TArray<TSharedPtr<FJsonObject>>& Messages, FString ToolId, FString Output, bool bSuccess);
 
 	// The tools' handlers. The fields that a tool requires are there when its handler is called.
 	FString HandleFinish(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	FString HandleCompile(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleCreateFile(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleCreateCppFile(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleCreateNewCppFile(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
@@ -171,10 +180,13 @@ private:
 	FString HandleDeleteCppFile(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleReadFile(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleGetFilesystemTree(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	FString HandleExecutePythonScript(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleCreateBlueprint(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleReadBlueprint(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	FString HandleModifyBlueprintVariables(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleReadBehaviorTree(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 	FString HandleSaveAndCompileAllDirtyBlueprints(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
+	FString HandleFindReferenceInAllFiles(const FString& ToolId, const TSharedPtr<FJsonObject>& Input);
 
 	/** Replaces the text of a file that is there, with its record and its diff. */
 	FString ReplaceRecordedFile(const FString& Path, const FString& Contents);
@@ -189,6 +201,7 @@ private:
 	TArray<TSharedPtr<FJsonValue>> ConversationMessages;
 	TArray<TSharedPtr<FJsonValue>> ToolResults;
 	TSharedPtr<FJsonObject> LastResponse;
+	FDelegateHandle CompilationFinishedHandle;
 	bool bPauseRequested = false;
 	bool bAutoContinue = false;
 };

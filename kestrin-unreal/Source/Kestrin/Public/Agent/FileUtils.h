@@ -11,7 +11,7 @@ DECLARE_DELEGATE_OneParam(FOnDirectoryStructureReady, const FString&);
  *
  * A path is relative to the project directory or absolute; nothing confines it to the project. The file operations answer with a
  * text for the service: one that begins with "Error:" reports a failure. A changed file is deleted and written anew; should the
- * writing fail, its old bytes are put back. The callers' thread does the work.
+ * writing fail, its old bytes are put back. Source control is told of every change. Game thread.
  */
 class KESTRIN_API FFileUtils
 {
@@ -38,6 +38,18 @@ public:
 	static FString InsertIntoFile(const FString& FilePath, int32 LineNumber, const FString& Text);
 	/** Replaces a line, counted from 1. Does nothing when that can't be done. */
 	static void ReplaceLineInFile(const FString& FilePath, int32 LineNumber, const FString& NewLine);
+
+	// What source control is told of a file, by its full path; game thread. The log says what came of it.
+	/** @return whether the file is marked for add */
+	static bool AddNewFileToSourceControl(const FString& FilePath);
+	/** @return whether this call has checked the file out; false where it was already, and where that isn't needed, as in git */
+	static bool CheckoutFileFromSourceControl(const FString& FilePath);
+	/**
+	 * Takes back the addition of a file that is marked for add, or marks a file that is controlled for deletion.
+	 * @param bDeleteFromDisk also delete the file, when that has worked or source control does not know it
+	 * @return whether source control did what the file's state asks for
+	 */
+	static bool RemoveFileFromSourceControl(const FString& FilePath, bool bDeleteFromDisk);
 
 	/** @return the tree of a directory as condensed JSON: a file name maps to "#", a directory name to an object */
 	static FString GetSubDirectoryStructureAsJsonObject(const FString& DirectoryPath);

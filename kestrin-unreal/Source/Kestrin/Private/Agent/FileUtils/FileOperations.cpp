@@ -5,7 +5,8 @@
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
 
-// Every operation but UpdateFile, whose search has a file of its own. Which path a message shows is fixed for each message.
+// Every operation but UpdateFile, whose search has a file of its own. Which path a message shows is fixed for each message. Whether
+// source control could be told of a change is in the log and changes nothing here.
 
 namespace
 {
@@ -86,6 +87,7 @@ FString FFileUtils::CreateNewFileWithContent(const FString& FilePath, const FStr
 	{
 		return FString::Printf(TEXT("Error: Failed to create file: %s"), *FilePath);
 	}
+	AddNewFileToSourceControl(FullPath);
 	return FString::Printf(TEXT("File created successfully: %s"), *FilePath);
 }
 
@@ -96,6 +98,7 @@ FString FFileUtils::ReplaceFile(const FString& FilePath, const FString& NewConte
 	{
 		return FString::Printf(TEXT("Error: File does not exist: %s"), *FullPath);
 	}
+	CheckoutFileFromSourceControl(FullPath);
 	const EFileRewrite Rewrite = RewriteFile(
 		FullPath, [&] { return FFileHelper::SaveStringToFile(NewContent, *FullPath, FFileHelper::EEncodingOptions::ForceUTF8); });
 	switch (Rewrite)
@@ -109,6 +112,8 @@ FString FFileUtils::ReplaceFile(const FString& FilePath, const FString& NewConte
 FString FFileUtils::DeleteFile(const FString& FilePath)
 {
 	const FString FullPath = GetFullPath(FilePath);
+	// A file that is gone may still be known to source control.
+	RemoveFileFromSourceControl(FullPath, false);
 	if (!FileExists(FullPath))
 	{
 		return FString::Printf(TEXT("Error: File does not exist at path: %s"), *FilePath);
@@ -132,6 +137,7 @@ FString FFileUtils::InsertIntoFile(const FString& FilePath, int32 LineNumber, co
 	}
 	const int32 Index = FMath::Clamp(LineNumber, 0, Lines.Num());
 	Lines.Insert(Text, Index);
+	CheckoutFileFromSourceControl(FullPath);
 	switch (RewriteFile(FullPath, [&] { return SaveLines(Lines, FullPath); }))
 	{
 	case EFileRewrite::DeleteFailed: return FString::Printf(TEXT("Error: Failed to delete existing file: %s"), *FilePath);
@@ -150,6 +156,7 @@ void FFileUtils::ReplaceLineInFile(const FString& FilePath, int32 LineNumber, co
 		return;
 	}
 	Lines[Index] = NewLine;
+	CheckoutFileFromSourceControl(FullPath);
 	// The operation reports nothing; a line that could not be replaced stays as it was.
 	RewriteFile(FullPath, [&] { return SaveLines(Lines, FullPath); });
 }

@@ -70,6 +70,7 @@ FString FFileUtils::UpdateFile(
 	{
 		return FString::Printf(TEXT("Error: String not found in file: %s"), *FilePath);
 	}
+	CheckoutFileFromSourceControl(FullPath);
 	OutNewContent = OutOldContent;
 	const int32 Replacements = ReplaceTolerantly(OutNewContent, OldString, NewString);
 	if (Replacements == 0)
