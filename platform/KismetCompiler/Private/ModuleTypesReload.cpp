@@ -156,7 +156,10 @@ struct FModuleTypesReload::FImpl
 			{
 				continue;
 			}
-			const UObject* const Found = IsMissing(Object->GetClass()) ? Object->GetClass() : Finder.Find(*Object);
+			// What is never saved may go on naming a type that is gone, as long as it is not made of it.
+			const bool bSaved = Object->GetOutermost() != GetTransientPackage();
+			const UObject* const Named = bSaved ? Finder.Find(*Object) : nullptr;
+			const UObject* const Found = IsMissing(Object->GetClass()) ? Object->GetClass() : Named;
 			if (Found && !Needed.Contains(Found))
 			{
 				Needed.Add(Found, *Object);
