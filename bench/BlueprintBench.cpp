@@ -1,8 +1,9 @@
 // A project of many Blueprints, 20 variables, 5 functions and 100 nodes each: what the Asset Registry needs to list them, beside opening
-// the files and reading the same bytes; loading them, beside RapidJSON's parse of the same content; the assistant's view of a large one;
-// saving and compiling three changed ones; and what a long session of reading leaves in memory.
+// the files and reading the same bytes; loading them, beside RapidJSON's parse of the same content; finding a reference in all of them;
+// the assistant's view of a large one; saving and compiling three changed ones; and what a long session of reading leaves in memory.
 
 #include "Agent/BlueprintUtils.h"
+#include "Agent/KestrinFindUtils.h"
 #include "AssetRegistry/AssetRegistryModule.h"
 #include "CoreHost/Project.h"
 #include "EdGraph/EdGraph.h"
@@ -197,6 +198,53 @@ void LoadAsJson(benchmark::State& State)
 	State.counters["MiB"] = static_cast<double>(Bytes) / (1 << 20);
 }
 
+/** Files of Blueprints from the given one on lie elsewhere while it lives. */
+class FFewerBlueprints
+{
+public:
+	explicit FFewerBlueprints(int32 InCount)
+		: Count(InCount)
+	{
+		std::filesystem::create_directories(Elsewhere);
+		Move(Folder, Elsewhere);
+	}
+	~FFewerBlueprints()
+	{
+		Move(Elsewhere, Folder);
+		std::filesystem::remove(Elsewhere);
+	}
+
+private:
+	void Move(const std::filesystem::path& From, const std::filesystem::path& To) const
+	{
+		for (int32 Index = Count; Index < NumBlueprints; ++Index)
+		{
+			const std::string Name = TCHAR_TO_UTF8(*(GetName(Index) + TEXT(".uasset")));
+			std::filesystem::rename(From / Name, To / Name);
+		}
+	}
+
+	const int32 Count;
+	const std::filesystem::path Folder = TCHAR_TO_UTF8(*FPaths::Combine(FPaths::ProjectContentDir(), TEXT("Many")));
+	const std::filesystem::path Elsewhere = TCHAR_TO_UTF8(*FPaths::Combine(FPaths::ProjectDir(), TEXT("Elsewhere")));
+};
+
+/** For a variable that every node uses, loading included; the project has no C++ files. */
+void FindReferences(benchmark::State& State)
+{
+	FProject::Get();
+	const FFewerBlueprints Fewer(static_cast<int32>(State.range(0)));
+	int64 Length = 0;
+	for (auto _ : State)
+	{
+		Length = FKestrinFindUtils::FindInAllFiles(TEXT("value_0")).Len();
+		State.PauseTiming();
+		CollectGarbage(RF_NoFlags);
+		State.ResumeTiming();
+	}
+	State.counters["answer MiB"] = static_cast<double>(Length) / (1 << 20);
+}
+
 void ReadLarge(benchmark::State& State)
 {
 	FProject::Get();
@@ -254,6 +302,7 @@ BENCHMARK(Registry)->Unit(benchmark::kMillisecond);
 BENCHMARK(RegistryBytes)->Unit(benchmark::kMillisecond);
 BENCHMARK(Load)->Arg(NumBlueprints / 2)->Arg(NumBlueprints)->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadAsJson)->Arg(NumBlueprints / 2)->Arg(NumBlueprints)->Unit(benchmark::kMillisecond);
+BENCHMARK(FindReferences)->Arg(NumBlueprints / 2)->Arg(NumBlueprints)->Unit(benchmark::kMillisecond);
 BENCHMARK(ReadLarge)->Arg(2500)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(SaveAndCompileThree)->Unit(benchmark::kMillisecond);
 BENCHMARK(ReadAllTenTimes)->Iterations(1)->Unit(benchmark::kMillisecond);

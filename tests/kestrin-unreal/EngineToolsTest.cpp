@@ -41,6 +41,9 @@ TEST_F(EngineTools, ShowTheirLineAndMissTheirFieldsInOrder)
 		{ "read_behavior_tree", R"({"blueprint_name":"BT_X"})", Tree, Fields },
 		{ "read_blueprint", R"({"blueprint_name":"BP_X","data_subset":"All"})", Reading, R"({"Error":"Blueprint 'BP_X' not found."})" },
 		{ "read_behavior_tree", R"({"behavior_tree_name":"BT_X"})", Tree, R"({"Error":"BehaviorTree 'BT_X' not found."})" },
+		{ "find_reference_in_all_files", R"({"reference":"X"})", "progress|Finding Reference In All Files ...", Fields },
+		{ "find_reference_in_all_files", R"({"reference_string":7})", "progress|Finding Reference In All Files ...",
+			"{\n\t\"reference_string\": \"7\",\n\t\"cpp_references\": [],\n\t\"blueprint_references\": []\n}" },
 		{ "save_and_compile_all_dirty_blueprints", R"({"anything":1})", "progress|Saving and compiling all dirty blueprints ...",
 			R"({"BlueprintResults":[],"Success":"All dirty Blueprints were processed successfully."})" },
 	};
