@@ -6,6 +6,8 @@ kestrin_module(Kestrin HIDDEN
 	ROOT ${PluginSource}/Source/Kestrin
 	OUTPUT_DIRECTORY ${PluginFolder}/Binaries/Linux
 	DEPENDS Core CoreUObject Json Engine
-	LIBRARIES AIModule AssetRegistry AssetTools BlueprintGraph HotReload HTTP LiveCoding PythonScriptPlugin Settings SourceControl UnrealEd)
+	LIBRARIES AIModule AssetRegistry AssetTools BlueprintGraph HotReload HTTP InputCore LiveCoding Projects PythonScriptPlugin Settings Slate
+		SlateCore SourceControl ToolMenus UnrealEd)
 
 configure_file(${PluginSource}/Kestrin.uplugin ${PluginFolder}/Kestrin.uplugin COPYONLY)
+configure_file(${PluginSource}/Resources/PlaceholderButtonIcon.svg ${PluginFolder}/Resources/PlaceholderButtonIcon.svg COPYONLY)

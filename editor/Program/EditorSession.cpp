@@ -3,6 +3,7 @@
 #include "CoreHost/Clock.h"
 #include "CoreHost/LogDevice.h"
 #include "CoreHost/Project.h"
+#include "Framework/Docking/TabManager.h"
 #include "HAL/FileManager.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
@@ -154,6 +155,7 @@ int32 RunEditor(FProgramOptions Options)
 
 	// The plug-in goes first: what it still has to say is heard by the face.
 	FModuleManager::Get().UnloadModule(PluginName);
+	FGlobalTabmanager::Get()->CloseAllTabs();
 	FModuleManager::Get().UnloadModulesAtShutdown();
 	return ExitCode;
 }

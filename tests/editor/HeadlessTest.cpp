@@ -74,14 +74,16 @@ TEST(Headless, AnswersALineThatIsNoCommandWithAnErrorAndGoesOn)
 		R"({"do":"set","name":"SupportedFileExtensions","value":"cpp"})",
 		R"({"do":"set","name":"SupportedFileExtensions","value":[["cpp"]]})",
 		R"({"do":"set","name":"AutoScrollPauseSeconds","value":"x"})",
-		// Commands of faces that the editor has not got.
-		R"({"do":"panel"})",
+		R"({"do":"key"})",
+		R"({"do":"key","key":"Enter","shift":[]})",
+		R"({"do":"click"})",
+		R"({"do":"command","name":"CloseEverything"})",
+		// There is no panel open.
 		R"({"do":"type","text":"x"})",
 		R"({"do":"key","key":"Enter","shift":false})",
 		R"({"do":"click","button":"[ Start ]"})",
 		R"({"do":"scroll"})",
 		R"({"do":"widgets"})",
-		R"({"do":"command","name":"OpenPluginWindow"})",
 	};
 	const ServiceProcess Service(Says);
 	const Project Toy;

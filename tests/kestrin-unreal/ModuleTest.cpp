@@ -1,11 +1,17 @@
 #include "Agent/Agent.h"
 #include "Agent/KestrinInterface.h"
 #include "CoreHost/Clock.h"
+#include "CoreHost/MainLoop.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Framework/Docking/TabManager.h"
 #include "HTTPHost/ScriptedTransport.h"
+#include "Interfaces/IPluginManager.h"
 #include "KestrinSettings.h"
 #include "Modules/ModuleManager.h"
 #include "SettingsHost/SettingsSections.h"
+#include "Styling/SlateStyleRegistry.h"
 #include "Support/TestProject.h"
+#include "ToolMenus.h"
 
 #include <chrono>
 #include <gtest/gtest.h>
@@ -89,6 +95,99 @@ TEST(Module, StartsInIdleAndCancelsAtItsEnd)
 	EXPECT_EQ(FAgent::Get().GetState(), EAgentState::Idle);
 	EXPECT_FALSE(FKestrinInterface::Get().IsInitialized());
 	EXPECT_EQ(ToUtf8(FKestrinInterface::Get().GetVersion()), "1.0.0");
+}
+
+/** A menu's entries as "section/entry label (tool tip) icon small icon". */
+std::vector<std::string> Entries(const char* Menu)
+{
+	std::vector<std::string> Result;
+	for (const FToolMenuSection& Section : UToolMenus::Get()->ExtendMenu(Menu)->Sections)
+	{
+		for (const FToolMenuEntry& Entry : Section.Blocks)
+		{
+			const FSlateIcon Icon = Entry.Icon.Get();
+			Result.push_back(ToUtf8(Section.Name.ToString() + TEXT("/") + Entry.Name.ToString() + TEXT(" ") + Entry.GetLabel().ToString() +
+				TEXT(" (") + Entry.GetToolTip().ToString() + TEXT(") ") + Icon.GetStyleName().ToString() + TEXT(" ") +
+				Icon.GetSmallStyleName().ToString()));
+		}
+	}
+	return Result;
+}
+
+TEST(Module, CanBeOpenedFromMenuAndToolBarWhileItIsThere)
+{
+	const char* const WindowMenu = "LevelEditor.MainMenu.Window";
+	const char* const ToolBar = "LevelEditor.LevelEditorToolBar.PlayToolBar";
+	using Lines = std::vector<std::string>;
+	const FTestProject Project;
+	const TSharedRef<FGlobalTabmanager> Tabs = FGlobalTabmanager::Get();
+	{
+		const FRunningModule Module;
+		FMainLoop::Tick();
+		EXPECT_EQ(Entries(WindowMenu), Lines{ "WindowLayout/Kestrin Kestrin (Bring up Kestrin window) Kestrin.Icon Kestrin.Icon.Large" });
+		EXPECT_EQ(Entries(ToolBar), Lines{ "Kestrin/LevelToolbarKestrin Kestrin (Kestrin) Kestrin.Icon Kestrin.Icon.Large" });
+		for (const char* const Menu : { WindowMenu, ToolBar })
+		{
+			EXPECT_FALSE(Tabs->FindExistingLiveTab(FName("Kestrin")).IsValid());
+			EXPECT_TRUE(UToolMenus::Get()->ExtendMenu(Menu)->Sections[0].Blocks[0].TryExecute());
+			EXPECT_TRUE(Tabs->FindExistingLiveTab(FName("Kestrin")).IsValid());
+			Tabs->CloseAllTabs();
+		}
+	}
+	EXPECT_EQ(Entries(WindowMenu), Lines());
+	EXPECT_EQ(Entries(ToolBar), Lines());
+	EXPECT_FALSE(Tabs->TryInvokeTab(FName("Kestrin")).IsValid());
+}
+
+TEST(Module, HasItsIconsWhereItsFolderIsKnown)
+{
+	for (const bool bFound : { false, true })
+	{
+		SCOPED_TRACE(bFound);
+		const FTestProject Project;
+		if (bFound)
+		{
+			Project.Write("Plugins/kestrin-unreal/Kestrin.uplugin", R"({"FileVersion":3})");
+		}
+		IPluginManager::Get().RefreshPluginsList();
+		const FRunningModule Module;
+		EXPECT_TRUE(FKestrinInterface::Get().IsInitialized());
+		const ISlateStyle* const Style = FSlateStyleRegistry::FindSlateStyle("KestrinStyle");
+		ASSERT_EQ(Style != nullptr, bFound);
+		const double Sizes[] = { 16.0, 40.0 };
+		for (const double Size : Sizes)
+		{
+			const FSlateBrush* const Brush = bFound ? Style->GetBrush(Size == 16.0 ? "Kestrin.Icon" : "Kestrin.Icon.Large") : nullptr;
+			if (Brush)
+			{
+				EXPECT_EQ(Brush->GetImageSize(), FVector2D(Size, Size));
+				EXPECT_EQ(Brush->GetTint(), FLinearColor::White);
+				EXPECT_EQ(ToUtf8(Brush->GetResourceName().ToString()),
+					ToUtf8(Project.Dir()) + "Plugins/kestrin-unreal/Resources/PlaceholderButtonIcon.svg");
+			}
+		}
+	}
+	IPluginManager::Get().RefreshPluginsList();
+	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("KestrinStyle"), nullptr);
+}
+
+TEST(Module, ReloadsImagesWhereSomebodyDraws)
+{
+	struct FRenderer : FSlateRenderer
+	{
+		void ReloadTextureResources() override { ++Reloads; }
+		int32 Reloads = 0;
+	};
+	const FTestProject Project;
+	const TSharedRef<FRenderer> Renderer = MakeShared<FRenderer>();
+	FSlateApplication::Create(Renderer);
+	{
+		const FRunningModule Module;
+		EXPECT_EQ(Renderer->Reloads, 1);
+	}
+	FSlateApplication::Shutdown();
+	const FRunningModule Module;
+	EXPECT_EQ(Renderer->Reloads, 1);
 }
 
 /** The prompt log's files in a project. */

@@ -5,6 +5,7 @@
 #include "CoreHost/MainLoop.h"
 #include "HeadlessEvents.h"
 #include "JsonLine.h"
+#include "PanelCommands.h"
 #include "SettingsField.h"
 #include "ToolRun.h"
 #include "UObject/Class.h"
@@ -22,6 +23,12 @@ struct FArguments
 		Fields.TryGetStringField(Name, Value);
 		return Value;
 	}
+	bool Flag(const TCHAR* Name) const
+	{
+		bool bValue = false;
+		Fields.TryGetBoolField(Name, bValue);
+		return bValue;
+	}
 	double Number(const TCHAR* Name, double Default) const
 	{
 		Fields.TryGetNumberField(Name, Default);
@@ -32,6 +39,7 @@ struct FArguments
 enum class EField : uint8
 {
 	Text,
+	Flag,
 	/** A number that is not below 0. */
 	Seconds,
 	/** Looked at by the command itself. */
@@ -137,6 +145,16 @@ const TArray<FCommand> Commands = {
 		[](const FArguments& Arguments) { FMainLoop::RunFor(Arguments.Number(TEXT("seconds"), 0.0)); } },
 	{ TEXT("query"), {}, [](const FArguments&) { WriteStateEvent(); } },
 	{ TEXT("transactions"), {}, [](const FArguments&) { WriteTransactionsEvent(); } },
+	{ TEXT("panel"), {}, [](const FArguments&) { OpenPanel(); } },
+	{ TEXT("type"), { Prompt }, [](const FArguments& Arguments) { TypeIntoPanel(Arguments.Text(Text)); } },
+	{ TEXT("key"), { { TEXT("key"), EField::Text }, { TEXT("shift"), EField::Flag, false } },
+		[](const FArguments& Arguments) { PressKeyInPanel(Arguments.Text(TEXT("key")), Arguments.Flag(TEXT("shift"))); } },
+	{ TEXT("click"), { { TEXT("button"), EField::Text } },
+		[](const FArguments& Arguments) { ClickInPanel(Arguments.Text(TEXT("button"))); } },
+	{ TEXT("scroll"), {}, [](const FArguments&) { ScrollPanel(); } },
+	{ TEXT("widgets"), {}, [](const FArguments&) { WritePanelWidgets(); } },
+	{ TEXT("command"), { { TEXT("name"), EField::Text } },
+		[](const FArguments& Arguments) { FireEditorCommand(Arguments.Text(TEXT("name"))); } },
 };
 
 /** What is wrong with a command's field; empty when nothing is. */
@@ -151,6 +169,11 @@ FString FindFault(const FJsonObject& Fields, const FField& Field)
 	if (Field.Type == EField::Text && !Fields.TryGetStringField(Field.Name, Ignored))
 	{
 		return FString::Printf(TEXT("takes '%s' as a text"), Field.Name);
+	}
+	bool bIgnored = false;
+	if (Field.Type == EField::Flag && !Fields.TryGetBoolField(Field.Name, bIgnored))
+	{
+		return FString::Printf(TEXT("takes '%s' as true or false"), Field.Name);
 	}
 	if (Field.Type == EField::Seconds && !(Fields.TryGetNumberField(Field.Name, Seconds) && Seconds >= 0.0))
 	{

@@ -7,7 +7,10 @@
 #include "Editor/Transactor.h"
 #include "EditorFaces.h"
 #include "JsonLine.h"
+#include "SlateHost/WidgetDriver.h"
+#include "SlateHost/WidgetTree.h"
 #include "UObject/Class.h"
+#include "Widgets/Layout/SScrollBox.h"
 
 namespace
 {
@@ -121,6 +124,28 @@ void WriteTransactionsEvent()
 	const TSharedRef<FJsonObject> Event = MakeEvent(TEXT("transactions"));
 	Event->SetArrayField(TEXT("titles"), Titles);
 	Event->SetNumberField(TEXT("undone"), Buffer.GetUndoCount());
+	WriteJsonLine(Event);
+}
+
+void WriteWidgetsEvent(const FWidgetDriver& Panel)
+{
+	const TSharedRef<FJsonObject> Event = MakeEvent(TEXT("widgets"));
+	Event->SetObjectField(TEXT("root"), DescribeWidgetTree(Panel.GetRoot()));
+	if (const TSharedPtr<SWidget> Focus = Panel.GetFocus())
+	{
+		TArray<TSharedPtr<FJsonValue>> Path;
+		for (const int32 Index : Panel.GetPath(Focus.ToSharedRef()))
+		{
+			Path.Add(MakeShared<FJsonValueNumber>(Index));
+		}
+		Event->SetArrayField(TEXT("focus"), Path);
+	}
+	else
+	{
+		Event->SetField(TEXT("focus"), MakeShared<FJsonValueNull>());
+	}
+	const TSharedPtr<SScrollBox> Chat = Panel.FindScrollBox();
+	Event->SetBoolField(TEXT("at_end"), Chat.IsValid() && Chat->IsAtEnd());
 	WriteJsonLine(Event);
 }
 

@@ -13,4 +13,6 @@ void WriteToolEvent(const FString& Name, const FJsonObject& Result);
 void WriteWaitedEvent(bool bTimedOut);
 /** The undo buffer: the titles from the oldest on, and how many of them are undone. */
 void WriteTransactionsEvent();
+/** The panel's widget tree, the widget with the focus as the way to it from the root, and whether the chat is scrolled to its end. */
+void WriteWidgetsEvent(const struct FWidgetDriver& Panel);
 void WriteErrorEvent(const FString& Message);

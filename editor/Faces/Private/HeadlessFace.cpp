@@ -1,7 +1,6 @@
 #include "HeadlessFace.h"
 
 #include "Agent/Agent.h"
-#include "Agent/KestrinInterface.h"
 #include "CoreHost/MainLoop.h"
 #include "HeadlessCommands.h"
 #include "HeadlessEvents.h"
@@ -9,11 +8,7 @@
 
 FHeadlessFace::FHeadlessFace()
 {
-	FKestrinInterface& Interface = FKestrinInterface::Get();
-	Interface.OnAddStatusMessageDelegate.BindLambda(
-		[](FString Text, FLinearColor Color, FName FontName, float FontSize) { WriteStatusEvent(Text, Color, FontName, FontSize); });
-	Interface.OnAddDiffMessageDelegate.BindLambda(
-		[](FString Path, FString OldContent, FString NewContent) { WriteDiffEvent(Path, OldContent, NewContent); });
+	HearChat();
 	StateHandle = FAgent::Get().OnAgentStateChanged.AddStatic(&WriteStateEvent);
 }
 
@@ -22,6 +17,33 @@ FHeadlessFace::~FHeadlessFace()
 	FKestrinInterface::Get().OnAddStatusMessageDelegate.Unbind();
 	FKestrinInterface::Get().OnAddDiffMessageDelegate.Unbind();
 	FAgent::Get().OnAgentStateChanged.Remove(StateHandle);
+}
+
+void FHeadlessFace::HearChat()
+{
+	FKestrinInterface& Interface = FKestrinInterface::Get();
+	if (!Interface.OnAddStatusMessageDelegate.IsBoundToObject(this))
+	{
+		PanelStatus = Interface.OnAddStatusMessageDelegate;
+		Interface.OnAddStatusMessageDelegate.BindRaw(this, &FHeadlessFace::OnStatus);
+	}
+	if (!Interface.OnAddDiffMessageDelegate.IsBoundToObject(this))
+	{
+		PanelDiff = Interface.OnAddDiffMessageDelegate;
+		Interface.OnAddDiffMessageDelegate.BindRaw(this, &FHeadlessFace::OnDiff);
+	}
+}
+
+void FHeadlessFace::OnStatus(FString Text, FLinearColor Color, FName FontName, float FontSize)
+{
+	WriteStatusEvent(Text, Color, FontName, FontSize);
+	PanelStatus.ExecuteIfBound(Text, Color, FontName, FontSize);
+}
+
+void FHeadlessFace::OnDiff(FString Path, FString OldContent, FString NewContent)
+{
+	WriteDiffEvent(Path, OldContent, NewContent);
+	PanelDiff.ExecuteIfBound(Path, OldContent, NewContent);
 }
 
 int32 FHeadlessFace::Run(const FFaceOptions& Options)
@@ -36,6 +58,7 @@ int32 FHeadlessFace::Run(const FFaceOptions& Options)
 		while (!bQuit && Input.Take(Line))
 		{
 			bQuit = RunHeadlessCommand(Line) == EHeadlessCommand::Quit;
+			HearChat();
 		}
 		if (!bQuit && !Input.HasEnded())
 		{

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Agent/KestrinInterface.h"
 #include "EditorFaces.h"
 
 /**
@@ -16,5 +17,12 @@ public:
 	int32 Run(const FFaceOptions& Options);
 
 private:
+	/** Takes the chat's lines and diffs from a panel that was opened, which gets them through this face from then on. */
+	void HearChat();
+	void OnStatus(FString Text, FLinearColor Color, FName FontName, float FontSize);
+	void OnDiff(FString Path, FString OldContent, FString NewContent);
+
 	FDelegateHandle StateHandle;
+	FOnKestrinAddStatusMessage PanelStatus;
+	FOnKestrinAddDiffMessage PanelDiff;
 };

@@ -24,10 +24,15 @@ public class Kestrin : ModuleRules
 			"BlueprintGraph",
 			"HotReload",
 			"HTTP",
+			"InputCore",
 			"LiveCoding",
+			"Projects",
 			"PythonScriptPlugin",
 			"Settings",
+			"Slate",
+			"SlateCore",
 			"SourceControl",
+			"ToolMenus",
 			"UnrealEd",
 		});
 	}

@@ -24,6 +24,7 @@ const std::vector<std::pair<std::string, std::vector<std::string>>> EventFields 
 	{ "tool", { "name", "id", "content", "is_error" } },
 	{ "waited", { "state", "timed_out" } },
 	{ "transactions", { "titles", "undone" } },
+	{ "widgets", { "root", "focus", "at_end" } },
 	{ "error", { "message" } },
 };
 

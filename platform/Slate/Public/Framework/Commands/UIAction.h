@@ -1,0 +1,6 @@
+#pragma once
+
+#include "Delegates/Delegate.h"
+
+DECLARE_DELEGATE(FExecuteAction);
+DECLARE_DELEGATE_RetVal(bool, FCanExecuteAction);

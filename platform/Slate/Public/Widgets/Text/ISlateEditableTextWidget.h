@@ -1,0 +1,9 @@
+#pragma once
+
+#include "CoreTypes.h"
+
+enum class ETextLocation : uint8
+{
+	BeginningOfDocument,
+	EndOfDocument
+};

@@ -1,0 +1,7 @@
+#pragma once
+
+/** The look of one kind of widget. */
+struct FSlateWidgetStyle
+{
+	virtual ~FSlateWidgetStyle() = default;
+};
