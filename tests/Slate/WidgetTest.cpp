@@ -16,7 +16,11 @@ namespace
 class FManualClock
 {
 public:
-	FManualClock() { FHostClock::SetManual(true); }
+	FManualClock()
+	{
+		FHostClock::SetManual(true);
+		FMainLoop::Tick();
+	}
 	~FManualClock() { FHostClock::SetManual(false); }
 };
 
