@@ -4,6 +4,7 @@
 #include "Agent/KestrinFindUtils.h"
 #include "Agent/KestrinPythonUtils.h"
 #include "ScopedTransaction.h"
+#include "TransactionTitle.h"
 
 // The tools that work on the engine's side.
 
@@ -15,7 +16,7 @@ FString FAgent::HandleFinish(const FString& ToolId, const TSharedPtr<FJsonObject
 
 FString FAgent::HandleExecutePythonScript(const FString& ToolId, const TSharedPtr<FJsonObject>& Input)
 {
-	const FScopedTransaction Transaction(FText::FromString(FString::Printf(TEXT("Kestrin Transaction %s"), *ConversationId)), true);
+	const FScopedTransaction Transaction(FText::FromString(GetTransactionTitle(ConversationId)), true);
 	const FPythonScriptResult Result = FKestrinPythonUtils::CreateAndExecutePythonScript(Input->GetStringField(TEXT("code")));
 	return FString::Printf(TEXT("%s: %s"), *Result.Output, *Result.ErrorMessage);
 }

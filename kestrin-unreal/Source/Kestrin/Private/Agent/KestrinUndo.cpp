@@ -6,6 +6,7 @@
 #include "Agent/FileHistory.h"
 #include "Editor.h"
 #include "Editor/Transactor.h"
+#include "TransactionTitle.h"
 
 // Undo and redo of a whole conversation. One level of each: an undo moves the conversation's id to where redo looks for it.
 
@@ -15,11 +16,6 @@ namespace
 UTransactor* GetUndoBuffer()
 {
 	return GEditor ? GEditor->Trans : nullptr;
-}
-
-FString GetTransactionTitle(const FString& ConversationId)
-{
-	return FString::Printf(TEXT("Kestrin Transaction %s"), *ConversationId);
 }
 
 /** The first transaction of that title among the oldest Count ones, or -1. */

@@ -1,5 +1,6 @@
 #include "Agent/Agent.h"
 #include "Agent/BlueprintUtils.h"
+#include "Agent/TransactionTitle.h"
 #include "AssetRegistry/IAssetRegistry.h"
 #include "BlueprintPackage.h"
 #include "JsonUtils.h"
@@ -26,8 +27,7 @@ FString FKestrinBlueprintUtils::ModifyBlueprint(const FString& BlueprintName, co
 	}
 
 	// Open to the end, so that one undo takes back what all sections did; what one did stays when a later step fails.
-	const FScopedTransaction Transaction(
-		FText::FromString(FString::Printf(TEXT("Kestrin Transaction %s"), *FAgent::Get().GetConversationId())), true);
+	const FScopedTransaction Transaction(FText::FromString(GetTransactionTitle(FAgent::Get().GetConversationId())), true);
 	bool bChanged = false;
 	const TSharedPtr<FJsonObject>* Variables = nullptr;
 	if (Json->TryGetObjectField(TEXT("Variables"), Variables))
