@@ -1,6 +1,8 @@
 #include "ModificationSection.h"
+#include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
 #include "JsonUtils.h"
+#include "K2Node_FunctionEntry.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 
 bool ApplySection(UBlueprint* Blueprint, FJsonObject& Result, const TCHAR* ResultKey, TFunctionRef<void(FSectionWork&)> Walk,
@@ -71,4 +73,11 @@ void ForEachObject(const FJsonObject& Parent, const TCHAR* Key, TFunctionRef<voi
 FBPVariableDescription* FindVariable(UBlueprint& Blueprint, FName Name)
 {
 	return Blueprint.NewVariables.FindByPredicate([Name](const FBPVariableDescription& Each) { return Each.VarName == Name; });
+}
+
+UK2Node_FunctionEntry* FindFunctionEntry(const UEdGraph& Graph)
+{
+	TArray<UK2Node_FunctionEntry*> Entries;
+	Graph.GetNodesOfClass(Entries);
+	return Entries.IsEmpty() ? nullptr : Entries[0];
 }

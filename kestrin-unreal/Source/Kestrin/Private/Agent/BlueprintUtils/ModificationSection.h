@@ -4,6 +4,8 @@
 #include "UObject/ObjectPtr.h"
 
 class UBlueprint;
+class UEdGraph;
+class UK2Node_FunctionEntry;
 struct FBPVariableDescription;
 
 // What all sections of a modification document have in common, so that each section's file holds its own walk alone.
@@ -68,3 +70,6 @@ ObjectType* FindByNameText(const TArray<TObjectPtr<ObjectType>>& Objects, const 
 
 /** The Blueprint's own member variable, or null. */
 FBPVariableDescription* FindVariable(UBlueprint& Blueprint, FName Name);
+
+/** The first one among the graph's nodes, or null. */
+UK2Node_FunctionEntry* FindFunctionEntry(const UEdGraph& Graph);

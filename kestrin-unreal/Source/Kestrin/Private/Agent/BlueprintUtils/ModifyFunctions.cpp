@@ -61,16 +61,12 @@ void AddParameters(FSectionWork& Work, const FJsonObject& Entry, const TCHAR* Ke
 UEdGraph* FKestrinBlueprintUtils::CreateFunction(FSectionWork& Work, const FSectionEntry& Entry)
 {
 	UEdGraph* const Graph = CreateFunctionGraph(Work, Entry.Name);
-	TArray<UK2Node_FunctionEntry*> EntryNodes;
-	if (Graph)
-	{
-		Graph->GetNodesOfClass(EntryNodes);
-	}
-	if (EntryNodes.IsEmpty())
+	UK2Node_FunctionEntry* const EntryNode = Graph ? FindFunctionEntry(*Graph) : nullptr;
+	if (!EntryNode)
 	{
 		return Graph;
 	}
-	AddParameters(Work, Entry.Json, TEXT("InParams"), *EntryNodes[0], EGPD_Output, &GetVarEdGraphPinTypeFromJSonObject);
+	AddParameters(Work, Entry.Json, TEXT("InParams"), *EntryNode, EGPD_Output, &GetVarEdGraphPinTypeFromJSonObject);
 	const TArray<TSharedPtr<FJsonValue>>* OutParams = nullptr;
 	if (Entry.Json.TryGetArrayField(TEXT("OutParams"), OutParams))
 	{

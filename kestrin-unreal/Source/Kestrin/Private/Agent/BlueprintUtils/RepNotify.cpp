@@ -13,13 +13,6 @@ namespace
 {
 const FString NotifyPrefix = TEXT("OnRep_");
 
-UK2Node_FunctionEntry* FindEntry(const UEdGraph& Graph)
-{
-	TArray<UK2Node_FunctionEntry*> Entries;
-	Graph.GetNodesOfClass(Entries);
-	return Entries.IsEmpty() ? nullptr : Entries[0];
-}
-
 FEdGraphPinType GetNotifyPinType(UBlueprint& Blueprint, const FString& VariableName)
 {
 	if (const FBPVariableDescription* const Variable = FindVariable(Blueprint, FName(*VariableName)))
@@ -68,7 +61,7 @@ void FKestrinBlueprintUtils::CreateRepNotifyFunction(UBlueprint* Blueprint, cons
 	{
 		return;
 	}
-	if (!FindEntry(*Graph))
+	if (!FindFunctionEntry(*Graph))
 	{
 		CreateEntry(*Blueprint, *Graph, FunctionName);
 	}
