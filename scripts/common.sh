@@ -9,6 +9,7 @@ packages=(
 	libcurl4-openssl-dev libssl-dev libcpp-httplib-dev nlohmann-json3-dev libre2-dev zlib1g-dev
 	libgtest-dev libgmock-dev git libgit2-dev
 	python3-dev pybind11-dev
+	qt6-base-dev libqt6svg6 fonts-dejavu-core fonts-noto-color-emoji
 )
 
 install_missing() {

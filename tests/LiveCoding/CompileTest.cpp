@@ -198,7 +198,7 @@ TEST_F(LiveCoding, FaultsComeWithFileAndLineAndChangeNothing)
 		{ "Private/Bad.cpp", "int32 A() { return B; }\n", Source + "Private/Bad.cpp:1:" },
 		{ "Public/Bad.h", "#include \"Bad.generated.h\"\nUCLASS()\nclass UBad : public UObject\n{\n\tUPROPERTY(Nonsense)\n\tint32 A;\n};\n",
 			Source + "Public/Bad.h:" },
-		{ "Private/Bad.cpp", "#include \"Lamp.h\"\nint32 A() { return GetDefault<ULamp>() ? ((ULamp*)nullptr)->Undefined() : 0; }\n",
+		{ "Private/Bad.cpp", "#include \"Lamp.h\"\nint32 A() { return GetMutableDefault<ULamp>()->Undefined(); }\n",
 			"undefined reference to" },
 		{ "Game.cpp", "// no module\n", "error: the module Game can't be loaded: no source file has IMPLEMENT_MODULE for it" },
 		{ "Game.Build.cs", "PublicDependencyModuleNames.AddRange(new string[] { \"Core\", \"Nowhere\" });",

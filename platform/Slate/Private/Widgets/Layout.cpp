@@ -58,11 +58,13 @@ void SScrollBox::RemoveSlot(const TSharedRef<SWidget>& WidgetToRemove)
 void SScrollBox::ScrollToEnd()
 {
 	SlotsAtEnd = Children.Num();
+	bScrollToEnd = true;
 	Invalidate(EInvalidateWidgetReason::Paint);
 }
 
 void SScrollBox::ScrollByUser(float NewScrollOffset, bool bToEnd)
 {
 	SlotsAtEnd = bToEnd ? Children.Num() : INDEX_NONE;
+	bScrollToEnd = false;
 	OnUserScrolled.ExecuteIfBound(NewScrollOffset);
 }

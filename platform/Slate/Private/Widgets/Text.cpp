@@ -68,7 +68,7 @@ void SMultiLineEditableText::DeleteBeforeCaret()
 
 FReply SMultiLineEditableText::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
-	if (OnKeyDownHandler.IsBound() && OnKeyDownHandler.Execute(MyGeometry, InKeyEvent).IsEventHandled())
+	if (OfferToKeyDownHandler(MyGeometry, InKeyEvent).IsEventHandled())
 	{
 		return FReply::Handled();
 	}

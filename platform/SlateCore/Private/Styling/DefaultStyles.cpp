@@ -10,7 +10,8 @@ struct FCoreStyleSet final : FSlateStyleSet
 	FCoreStyleSet()
 		: FSlateStyleSet("CoreStyle")
 	{
-		Set("Border", new FSlateColorBrush(FLinearColor::White));
+		// Dark, so that the light letters of "NormalText" can be read on whatever colour it is tinted with.
+		Set("Border", new FSlateColorBrush(FLinearColor(0.32f, 0.32f, 0.32f)));
 		Set("NormalText",
 			FTextBlockStyle().SetFont(FCoreStyle::GetDefaultFontStyle("Regular", 10.0f)).SetColorAndOpacity(FLinearColor::White));
 		Set("Button",

@@ -2,6 +2,8 @@
 
 #include "Widgets/SPanel.h"
 
+#include <utility>
+
 /** Where the user has scrolled to, in Slate units from the start. */
 DECLARE_DELEGATE_OneParam(FOnUserScrolled, float);
 
@@ -52,10 +54,12 @@ public:
 	/** The slot that holds this widget; without effect when none does. */
 	void RemoveSlot(const TSharedRef<SWidget>& WidgetToRemove);
 
-	/** The view shows the last child to its end. */
+	/** The view shows the last child to its end, from the next frame on. */
 	void ScrollToEnd();
 	/** The stand-in's own: whether the view is where ScrollToEnd would bring it. */
 	bool IsAtEnd() const { return SlotsAtEnd >= Children.Num(); }
+	/** The stand-in's own, for what shows the box: whether its view has to go to the end in this frame, whatever was added since. */
+	bool TakeScrollToEnd() { return std::exchange(bScrollToEnd, false) || IsAtEnd(); }
 	/** The stand-in's own: the user has moved the view. @param bToEnd as far as it goes */
 	void ScrollByUser(float NewScrollOffset, bool bToEnd);
 
@@ -64,4 +68,5 @@ private:
 	FOnUserScrolled OnUserScrolled;
 	/** How many slots there were up to the place that the view's end shows; none when the user went elsewhere. */
 	int32 SlotsAtEnd = 0;
+	bool bScrollToEnd = false;
 };

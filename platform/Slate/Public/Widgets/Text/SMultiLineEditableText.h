@@ -44,6 +44,11 @@ public:
 	/** Enter writes a line end, BackSpace takes a character away; other editing is for what shows the text. */
 	FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 
+	/** The stand-in's own: to the handler alone, for what shows the text and edits it by itself. */
+	FReply OfferToKeyDownHandler(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
+	{
+		return OnKeyDownHandler.IsBound() ? OnKeyDownHandler.Execute(MyGeometry, InKeyEvent) : FReply::Unhandled();
+	}
 	/** The stand-in's own: the caret's place, counted in the text's code units; and moving it. */
 	int32 GetCaret() const { return Caret; }
 	void SetCaret(int32 NewCaret);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "SlateQtHost/Qt.h"
+
+class SMultiLineEditableText;
+class SOptionPicker;
+class STextBlock;
+
+// What widgets ask for that have no children to place, in pixels.
+
+qreal GetLabelWidth(const STextBlock& Text);
+qreal GetLabelHeight(const STextBlock& Text);
+/** A text that wraps takes what it gets. */
+qreal GetEditorWidth(const SMultiLineEditableText& Text);
+/** Of the whole text. */
+qreal GetEditorHeight(const SMultiLineEditableText& Text, qreal Width);
+qreal GetPickerWidth(const SOptionPicker& Picker);
+qreal GetPickerHeight();

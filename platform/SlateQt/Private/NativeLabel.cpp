@@ -1,0 +1,55 @@
+#include "NativeWidget.h"
+
+#include "SlateLook.h"
+#include "Widgets/Text/STextBlock.h"
+
+namespace
+{
+/** A line of text, or several; the mouse does not see it. */
+class FNativeLabel final : public FNativeWidget
+{
+public:
+	FNativeLabel(STextBlock& Text, QWidget* Parent)
+		: FNativeWidget(Text, new QLabel(Parent))
+	{
+		GetLabel().setTextFormat(Qt::PlainText);
+		GetLabel().setAttribute(Qt::WA_TransparentForMouseEvents);
+		GetLabel().setFont(GetQtFont(Text.GetFont()).Font);
+	}
+
+	void Follow(FViewContents&) override
+	{
+		const TSharedPtr<SWidget> Widget = GetSlate();
+		const STextBlock& Text = static_cast<const STextBlock&>(*Widget);
+		if (!bShown || &Shown.ToString() != &Text.GetText().ToString())
+		{
+			bShown = true;
+			Shown = Text.GetText();
+			GetLabel().setText(ToShownText(Shown.ToString()));
+		}
+		if (const QColor Now = ToQColor(Text.GetColorAndOpacity().GetSpecifiedColor()); Now != Color)
+		{
+			Color = Now;
+			QPalette Palette;
+			Palette.setColor(QPalette::WindowText, Now);
+			Palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(Now.red(), Now.green(), Now.blue(), Now.alpha() * 2 / 5));
+			GetLabel().setPalette(Palette);
+		}
+		constexpr Qt::Alignment Sides[] = { Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight };
+		GetLabel().setAlignment(Sides[Text.GetJustification()] | Qt::AlignTop);
+	}
+
+private:
+	QLabel& GetLabel() { return static_cast<QLabel&>(*GetQt()); }
+
+	bool bShown = false;
+	/** Kept, so that no other text has its address. */
+	FText Shown;
+	QColor Color;
+};
+}
+
+TUniquePtr<FNativeWidget> MakeNativeLabel(SWidget& TextBlock, QWidget* Parent)
+{
+	return MakeUnique<FNativeLabel>(static_cast<STextBlock&>(TextBlock), Parent);
+}
