@@ -47,11 +47,18 @@ FString ChooseFace(FWords&, FProgramOptions& Options)
 const TArray<FOption> KnownOptions = {
 	{ TEXT("--headless"), 0, &ChooseFace<EEditorFace::Headless> },
 	{ TEXT("--terminal"), 0, &ChooseFace<EEditorFace::Terminal> },
+	{ TEXT("--window"), 0, &ChooseFace<EEditorFace::Window> },
 	{ TEXT("--call"), 2,
 		[](FWords& Words, FProgramOptions& Options) {
 			const FString Tool = Words.Take();
 			Options.Face.Calls.Add({ Tool, Words.Take() });
 			return ChooseFace<EEditorFace::Call>(Words, Options);
+		} },
+	{ TEXT("--screenshot"), 1,
+		[](FWords& Words, FProgramOptions& Options) {
+			const FString File = Words.Take();
+			Options.Face.Screenshot = FPaths::ConvertRelativePathToFull(File);
+			return File.IsEmpty() ? FString(TEXT("the file's name is empty")) : FString();
 		} },
 	{ TEXT("--clock-rate"), 1,
 		[](FWords& Words, FProgramOptions& Options) {
@@ -113,19 +120,29 @@ bool ParseOptions(const TArray<FString>& Words, FProgramOptions& OutOptions, FSt
 		OutError = TEXT("no project given");
 		return false;
 	}
+	const bool bHasPicture = OutOptions.Face.Face == EEditorFace::Headless || OutOptions.Face.Face == EEditorFace::Window;
+	if (!OutOptions.Face.Screenshot.IsEmpty() && !bHasPicture)
+	{
+		OutError = TEXT("--screenshot: goes with --headless or --window only");
+		return false;
+	}
 	return true;
 }
 
 FString GetUsage()
 {
-	return TEXT("kestrin-editor PROJECT.uproject [--terminal | --headless | --call TOOL JSON ...] [options]\n"
-				"\n"
-				"  --terminal          a conversation on the terminal\n"
-				"  --headless          commands on standard input, events on standard output, one JSON object a line (the default)\n"
-				"  --call TOOL JSON    run a tool and print its result; may be repeated\n"
-				"\n"
-				"  --clock-rate N      the platform's clock runs N times as fast\n"
-				"  --log FILE          where the editor's log goes (standard error otherwise)\n"
-				"  --plugin DIR        another copy of the plug-in\n"
-				"  --help, --version\n");
+	return TEXT(
+		"kestrin-editor PROJECT.uproject [--window | --terminal | --headless | --call TOOL JSON ...] [options]\n"
+		"\n"
+		"  --window            the editor's window\n"
+		"  --terminal          a conversation on the terminal\n"
+		"  --headless          commands on standard input, events on standard output, one JSON object a line (the default)\n"
+		"  --call TOOL JSON    run a tool and print its result; may be repeated\n"
+		"\n"
+		"  --clock-rate N      the platform's clock runs N times as fast\n"
+		"  --screenshot FILE   at the end of input, a picture (PNG) of the window, or, with --headless, of the panel; --window then takes\n"
+		"                      the headless commands on standard input as well\n"
+		"  --log FILE          where the editor's log goes (standard error otherwise)\n"
+		"  --plugin DIR        another copy of the plug-in\n"
+		"  --help, --version\n");
 }

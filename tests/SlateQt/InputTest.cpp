@@ -183,16 +183,23 @@ TEST_F(SlateInput, TheFocusComesBackToTheInput)
 	Shown.Refresh();
 	EXPECT_FALSE(Edit->hasFocus());
 	EXPECT_FALSE(Button->hasFocus());
+	// Meanwhile the Tab key goes on from where the input is.
+	Shown.Press(Qt::Key_Tab);
+	EXPECT_TRUE(Picker->hasFocus());
+	Shown.Press(Qt::Key_Tab, Qt::ShiftModifier);
+	EXPECT_TRUE(SaidEdit->hasFocus());
+	Edit->parentWidget()->setFocus();
 	bInputEnabled = true;
 	Shown.Refresh();
 	EXPECT_TRUE(Edit->hasFocus());
 
-	// A button that was clicked and can't be clicked again leaves it to the input.
+	// A button that was clicked leaves it to the input.
 	Button->setFocus();
 	bInputEnabled = false;
 	bButtonEnabled = false;
 	Shown.Refresh();
 	bInputEnabled = true;
+	bButtonEnabled = true;
 	Shown.Refresh();
 	EXPECT_TRUE(Edit->hasFocus());
 

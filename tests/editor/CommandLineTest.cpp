@@ -27,7 +27,7 @@ TEST(CommandLine, TellsItsOptionsAndItsVersion)
 	const Ending Help = RunEditor({ "--help" });
 	EXPECT_EQ(Help.Code, 0);
 	for (const char* Word :
-		{ "PROJECT.uproject", "--headless", "--terminal", "--call TOOL JSON", "--clock-rate", "--log", "--plugin", "--version" })
+		{ "PROJECT.uproject", "--window", "--screenshot FILE", "--headless", "--terminal", "--call TOOL JSON", "--clock-rate", "--log", "--plugin", "--version" })
 	{
 		EXPECT_NE(Help.Out.find(Word), std::string::npos) << Word;
 	}
@@ -69,6 +69,11 @@ TEST(CommandLine, RefusesWhatItCannotDoAndSaysWhy)
 		{ { File, "--call", "read_file" }, "--call" },
 		{ { File, "--call", "finish", "{}", "--headless" }, "--headless" },
 		{ { File, "--headless", "--terminal" }, "--terminal" },
+		{ { File, "--window", "--headless" }, "--headless" },
+		{ { File, "--screenshot" }, "--screenshot" },
+		{ { File, "--screenshot", "" }, "--screenshot" },
+		{ { File, "--terminal", "--screenshot", "a.png" }, "--screenshot" },
+		{ { File, "--screenshot", "a.png", "--call", "finish", "{}" }, "--screenshot" },
 		{ { File, "--clock-rate" }, "--clock-rate" },
 		{ { File, "--clock-rate", "0" }, "--clock-rate" },
 		{ { File, "--clock-rate", "-2" }, "--clock-rate" },

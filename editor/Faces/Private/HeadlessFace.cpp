@@ -54,6 +54,8 @@ int32 FHeadlessFace::Run(const FFaceOptions& Options)
 	while (!bQuit && !Input.HasEnded() && !IsEngineExitRequested())
 	{
 		FMainLoop::Tick();
+		// In a window the panel may be opened at any time.
+		HearChat();
 		FString Line;
 		while (!bQuit && Input.Take(Line))
 		{

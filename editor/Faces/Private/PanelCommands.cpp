@@ -12,7 +12,7 @@ const FName PanelTab(TEXT("Kestrin"));
 /** Acts on the open panel; an error event says what can't be done. */
 void Drive(TFunctionRef<bool(const FWidgetDriver& Panel, FString& OutError)> Act)
 {
-	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindExistingLiveTab(PanelTab);
+	const TSharedPtr<SDockTab> Tab = FindPanel();
 	FString Error = TEXT("The panel is not open.");
 	if (!Tab.IsValid() || !Act(FWidgetDriver(Tab->GetContent()), Error))
 	{
@@ -37,6 +37,11 @@ const FToolMenuEntry* FindEntry(const FString& CommandName)
 	}
 	return nullptr;
 }
+}
+
+TSharedPtr<SDockTab> FindPanel()
+{
+	return FGlobalTabmanager::Get()->FindExistingLiveTab(PanelTab);
 }
 
 void OpenPanel()

@@ -2,8 +2,12 @@
 
 #include "CoreMinimal.h"
 
+class SDockTab;
+
 // What a user does with the chat panel, without a window. Each gives an error event when that can't be done now.
 
+/** The chat panel's tab; null when it is not open. */
+TSharedPtr<SDockTab> FindPanel();
 /** Opens the chat panel's tab. */
 void OpenPanel();
 void TypeIntoPanel(const FString& Text);

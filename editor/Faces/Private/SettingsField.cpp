@@ -1,6 +1,7 @@
 #include "SettingsField.h"
 
 #include "KestrinSettings.h"
+#include "SettingsHost/SettingsSections.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -67,11 +68,10 @@ bool SetSettingsField(const FString& Name, const FJsonValue& Value, bool bSave, 
 		OutError = FString::Printf(TEXT("The field '%s' can't be set to '%s'."), *Name, *Text);
 		return false;
 	}
-	FPropertyChangedEvent Event(Property);
-	Settings->PostEditChangeProperty(Event);
-	if (bSave)
+	if (!FHostSettings::FinishEdit(*Settings, *Property, bSave))
 	{
-		Settings->SaveConfig();
+		OutError = FString::Printf(TEXT("The field '%s' is set, but the settings can't be saved."), *Name);
+		return false;
 	}
 	return true;
 }

@@ -12,7 +12,9 @@ enum class EEditorFace : uint8
 	/** Runs tools and prints their results. */
 	Call,
 	/** A conversation for a person. */
-	Terminal
+	Terminal,
+	/** The main window; when a picture is wanted, with the headless commands and events beside it. */
+	Window
 };
 
 /** One tool to run: its name and its input, a JSON object as text. */
@@ -27,6 +29,8 @@ struct FFaceOptions
 	EEditorFace Face = EEditorFace::Headless;
 	/** For Call. */
 	TArray<FToolCall> Calls;
+	/** For Window and Headless: where a picture of the window, or of the chat panel, is written in the end; empty for none. Absolute. */
+	FString Screenshot;
 	/** For the "ready" event. */
 	FString Project;
 	FString Version;

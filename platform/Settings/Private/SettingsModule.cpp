@@ -1,5 +1,6 @@
 #include "ISettingsModule.h"
 #include "SettingsHost/SettingsSections.h"
+#include "UObject/UnrealType.h"
 
 namespace
 {
@@ -56,6 +57,22 @@ TArray<FSettingsEntry> FHostSettings::GetSections()
 {
 	const FSettingsModule* const Module = FModuleManager::GetModulePtr<FSettingsModule>("Settings");
 	return Module ? Module->GetEntries() : TArray<FSettingsEntry>();
+}
+
+bool FHostSettings::FinishEdit(UObject& Object, FProperty& Property, bool bSave)
+{
+	FPropertyChangedEvent Event(&Property, EPropertyChangeType::ValueSet);
+	Object.PostEditChangeProperty(Event);
+	if (!bSave)
+	{
+		return true;
+	}
+	if (Object.GetClass()->HasAnyClassFlags(CLASS_DefaultConfig))
+	{
+		return Object.TryUpdateDefaultConfigFile();
+	}
+	Object.SaveConfig();
+	return true;
 }
 
 IMPLEMENT_MODULE(FSettingsModule, Settings)

@@ -2,7 +2,7 @@
 
 // Settings: who registers which object's properties as a page of the settings.
 //
-// It leaves out the pages' own actions (import, export, reset) and custom widgets; nothing here shows a page yet.
+// It leaves out the pages' own actions (import, export, reset) and custom widgets. The editor's window shows the pages.
 
 #include "ISettingsSection.h"
 #include "Modules/ModuleManager.h"

@@ -14,6 +14,27 @@ public:
 	void ReloadTextureResources() override { QPixmapCache::clear(); }
 };
 
+/** Fusion, with boxes whose edges can be seen on a dark ground. */
+class FEditorStyle final : public QProxyStyle
+{
+public:
+	FEditorStyle()
+		: QProxyStyle(QStringLiteral("Fusion"))
+	{
+	}
+
+	void drawPrimitive(PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const override
+	{
+		QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+		if (Element == PE_IndicatorCheckBox)
+		{
+			Painter->setPen(Option->palette.color(QPalette::PlaceholderText));
+			Painter->setBrush(Qt::NoBrush);
+			Painter->drawRect(Option->rect.adjusted(0, 0, -1, -1));
+		}
+	}
+};
+
 QPalette MakeDarkPalette()
 {
 	QPalette Palette(QColor(48, 48, 48), QColor(36, 36, 36));
@@ -51,7 +72,7 @@ FQtApplication::FQtApplication()
 	// Qt takes on the user's locale; numbers are written to files and to the wire with a point.
 	std::setlocale(LC_NUMERIC, "C");
 	QApplication::setQuitOnLastWindowClosed(false);
-	QApplication::setStyle(QStringLiteral("Fusion"));
+	QApplication::setStyle(new FEditorStyle);
 	QApplication::setPalette(MakeDarkPalette());
 	FSlateApplication::Create(MakeShared<FQtRenderer>());
 	State->Ticker = FTSTicker::GetCoreTicker().AddTicker(TEXT("FQtApplication"), 0.0f,

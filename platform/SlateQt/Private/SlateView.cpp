@@ -17,6 +17,7 @@ public:
 		setFrameShape(QFrame::NoFrame);
 		// Only what is in it takes part in the round of the Tab key.
 		setFocusPolicy(Qt::NoFocus);
+		Canvas.setFocusPolicy(Qt::ClickFocus);
 		setWidgetResizable(true);
 		setWidget(&Canvas);
 		Ticker = FTSTicker::GetCoreTicker().AddTicker(TEXT("FSlateView"), 0.0f,

@@ -4,6 +4,22 @@
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Text/SMultiLineEditableText.h"
 
+namespace
+{
+/** Whether it is a text that is for writing. */
+bool IsWritten(const QWidget* Qt)
+{
+	const QTextEdit* const Text = qobject_cast<const QTextEdit*>(Qt);
+	return Text && !Text->isReadOnly();
+}
+
+/** Whether that can be done now. */
+bool IsInput(const QWidget* Qt)
+{
+	return IsWritten(Qt) && Qt->isEnabled();
+}
+}
+
 FViewContents::FViewContents(const TSharedRef<SWidget>& InRoot, FCanvas& InCanvas)
 	: Root(InRoot)
 	, RootCanvas(InCanvas)
@@ -130,8 +146,13 @@ void FViewContents::Show(FNativeWidget& Native, const QRectF& Area)
 	{
 		Qt.show();
 	}
-	if (bEnabled && (Qt.focusPolicy() & Qt::TabFocus) != 0)
+	if ((Qt.focusPolicy() & Qt::TabFocus) != 0)
 	{
+		// The canvas has the focus in place of an input that can't be used; the Tab key goes on from there.
+		if (IsWritten(&Qt))
+		{
+			NextFocusOrder.push_back(&RootCanvas);
+		}
 		NextFocusOrder.push_back(&Qt);
 	}
 }
@@ -175,15 +196,8 @@ void FViewContents::OrderFocus()
 
 QWidget* FViewContents::FindInput() const
 {
-	for (const QPointer<QWidget>& Each : FocusOrder)
-	{
-		const QTextEdit* const Text = qobject_cast<const QTextEdit*>(Each.data());
-		if (Text && !Text->isReadOnly() && Text->isEnabled())
-		{
-			return Each;
-		}
-	}
-	return nullptr;
+	const auto Found = std::find_if(FocusOrder.begin(), FocusOrder.end(), [](const QPointer<QWidget>& Each) { return IsInput(Each); });
+	return Found == FocusOrder.end() ? nullptr : Found->data();
 }
 
 void FViewContents::TakeFocus(const FNativeWidget& From)
@@ -200,8 +214,10 @@ void FViewContents::ReturnFocus()
 	}
 	const TSharedPtr<SWidget> Lost = LostFocus.Pin();
 	const FNativeWidget* const Native = Lost.IsValid() ? FindNative(*Lost) : nullptr;
-	const bool bUsable = Native && Native->LastPass == Pass && Native->bEnabled;
-	if (QWidget* const To = bUsable ? Native->GetQt() : FindInput())
+	QWidget* const Before = Native && Native->LastPass == Pass && Native->bEnabled ? Native->GetQt() : nullptr;
+	// Whoever clicked a button goes on by typing; a space that was meant for the input would click it again.
+	QWidget* const Input = IsInput(Before) ? Before : FindInput();
+	if (QWidget* const To = Input ? Input : Before)
 	{
 		LostFocus.Reset();
 		To->setFocus(Qt::OtherFocusReason);

@@ -40,7 +40,7 @@ private:
 	void Show(FNativeWidget& Native, const QRectF& Area);
 	/** What has the focus can't be used for a while; the canvas keeps it for it. */
 	void TakeFocus(const FNativeWidget& From);
-	/** Gives it back, or else to the input, as soon as one of them can be used. */
+	/** Gives it to the input, or else back, as soon as one of them can be used. */
 	void ReturnFocus();
 	void DropUnseen();
 	void OrderFocus();

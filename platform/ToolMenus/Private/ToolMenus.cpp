@@ -40,9 +40,25 @@ FToolMenuEntry FToolMenuEntry::InitToolBarButton(const TSharedPtr<const FUIComma
 	return Entry;
 }
 
+bool FToolMenuEntry::CanExecute() const
+{
+	return Command.IsValid() && CommandList.IsValid() && CommandList->CanExecuteAction(Command.ToSharedRef());
+}
+
+ECheckBoxState FToolMenuEntry::GetCheckState() const
+{
+	const bool bKnown = Command.IsValid() && CommandList.IsValid();
+	return bKnown ? CommandList->GetCheckState(Command.ToSharedRef()) : ECheckBoxState::Unchecked;
+}
+
 bool FToolMenuEntry::TryExecute() const
 {
 	return Command.IsValid() && CommandList.IsValid() && CommandList->TryExecuteAction(Command.ToSharedRef());
+}
+
+const FToolMenuEntry* FToolMenuSection::FindEntry(const FName InName) const
+{
+	return Blocks.FindByPredicate([&InName](const FToolMenuEntry& Each) { return Each.Name == InName; });
 }
 
 FToolMenuEntry& FToolMenuSection::AddEntry(const FToolMenuEntry& Args)

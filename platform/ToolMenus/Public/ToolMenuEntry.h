@@ -40,6 +40,9 @@ struct TOOLMENUS_API FToolMenuEntry
 	const TSharedPtr<const FUICommandInfo>& GetCommand() const { return Command; }
 	FText GetLabel() const { return Label.Get(Command->GetLabel()); }
 	FText GetToolTip() const { return ToolTip.Get(Command->GetDescription()); }
+	/** The stand-in's own: whether choosing the entry does anything now, and whether it is on. */
+	bool CanExecute() const;
+	ECheckBoxState GetCheckState() const;
 	/** The stand-in's own: as if the entry was chosen. @return false when its command can't be performed now */
 	bool TryExecute() const;
 

@@ -8,6 +8,8 @@ struct TOOLMENUS_API FToolMenuSection
 	FName Name;
 	TArray<FToolMenuEntry> Blocks;
 
+	/** Null when there is none. */
+	const FToolMenuEntry* FindEntry(const FName InName) const;
 	/** One of the same name is replaced. */
 	FToolMenuEntry& AddEntry(const FToolMenuEntry& Args);
 	FToolMenuEntry& AddMenuEntryWithCommandList(const TSharedPtr<const FUICommandInfo>& InCommand,

@@ -9,7 +9,11 @@ namespace
 {
 std::vector<std::string> WithProject(const Project& In, std::vector<std::string> Options)
 {
-	Options.insert(Options.begin(), { In.GetFile(), "--headless" });
+	if (std::ranges::find(Options, "--window") == Options.end())
+	{
+		Options.insert(Options.begin(), "--headless");
+	}
+	Options.insert(Options.begin(), In.GetFile());
 	return Options;
 }
 

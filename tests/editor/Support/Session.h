@@ -11,7 +11,7 @@
 /** How many times as fast the editor's clock runs where a test does not say otherwise. */
 constexpr int ClockRate = 40;
 
-/** One headless session. Whatever comes that is no event of the contract fails the test. */
+/** One headless session, or, with "--window" among the options, one beside a window. Whatever comes that is no event of the contract fails the test. */
 class Session
 {
 public:

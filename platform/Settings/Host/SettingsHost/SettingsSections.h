@@ -15,4 +15,10 @@ struct SETTINGS_API FHostSettings
 {
 	/** In the order of registration; empty while the module is not loaded. */
 	static TArray<FSettingsEntry> GetSections();
+	/**
+	 * To be called when an editor has given a property another value: the object hears of it.
+	 * @param bSave also writes the config properties to the file that the object's class is saved to
+	 * @return false when the default config file can't be written; the log says why, and the value stays
+	 */
+	[[nodiscard]] static bool FinishEdit(UObject& Object, FProperty& Property, bool bSave);
 };

@@ -18,10 +18,10 @@ void MakeUICommand_InternalUseOnly(FBindingContext* This, TSharedPtr<FUICommandI
 	OutCommand = Command;
 }
 
-void FUICommandList::MapAction(
-	const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction, FCanExecuteAction CanExecuteAction)
+void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction,
+	FCanExecuteAction CanExecuteAction, FIsActionChecked IsCheckedDelegate)
 {
-	Bindings.Add({ InUICommandInfo, MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction) });
+	Bindings.Add({ InUICommandInfo, MoveTemp(ExecuteAction), MoveTemp(CanExecuteAction), MoveTemp(IsCheckedDelegate) });
 }
 
 bool FUICommandList::CanExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
@@ -33,6 +33,13 @@ bool FUICommandList::CanExecuteAction(const TSharedRef<const FUICommandInfo> InU
 bool FUICommandList::TryExecuteAction(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
 {
 	return CanExecuteAction(InUICommandInfo) && Find(*InUICommandInfo)->Execute.ExecuteIfBound();
+}
+
+ECheckBoxState FUICommandList::GetCheckState(const TSharedRef<const FUICommandInfo> InUICommandInfo) const
+{
+	const FBinding* const Binding = Find(*InUICommandInfo);
+	const bool bChecked = Binding && Binding->IsChecked.IsBound() && Binding->IsChecked.Execute();
+	return bChecked ? ECheckBoxState::Checked : ECheckBoxState::Unchecked;
 }
 
 const FUICommandList::FBinding* FUICommandList::Find(const FUICommandInfo& Command) const

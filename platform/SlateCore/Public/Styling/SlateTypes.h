@@ -4,6 +4,12 @@
 #include "Styling/SlateBrush.h"
 #include "Styling/SlateWidgetStyle.h"
 
+enum class ECheckBoxState : uint8
+{
+	Unchecked,
+	Checked
+};
+
 struct FTextBlockStyle : FSlateWidgetStyle
 {
 	FSlateFontInfo Font;

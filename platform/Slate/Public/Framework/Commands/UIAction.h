@@ -4,3 +4,4 @@
 
 DECLARE_DELEGATE(FExecuteAction);
 DECLARE_DELEGATE_RetVal(bool, FCanExecuteAction);
+DECLARE_DELEGATE_RetVal(bool, FIsActionChecked);

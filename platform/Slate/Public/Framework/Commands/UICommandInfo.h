@@ -5,7 +5,9 @@
 enum class EUserInterfaceActionType : uint8
 {
 	None,
-	Button
+	Button,
+	/** On or off. */
+	ToggleButton
 };
 
 /** The name and the texts of a command. What it does is told by a command list. */

@@ -1,0 +1,9 @@
+#include "WindowTestSettings.h"
+
+#include "UObject/UnrealType.h"
+
+void UWindowTestSettings::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
+{
+	Super::PostEditChangeProperty(PropertyChangedEvent);
+	Edits.Add(PropertyChangedEvent.GetPropertyName());
+}
