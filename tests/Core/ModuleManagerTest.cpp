@@ -54,7 +54,7 @@ TEST_F(ModuleManager, TellsWhyAModuleDoesNotLoad)
 		const TCHAR* InLog;
 	} Cases[] = {
 		{ u"Missing", EModuleLoadResult::FileNotFound, u"libKestrinEditor-Missing.so in " },
-		{ u"NoModule", EModuleLoadResult::FailedToInitialize, u"InitializeModule" },
+		{ u"NoModule", EModuleLoadResult::FailedToInitialize, u"IMPLEMENT_MODULE" },
 		{ u"MissingSymbol", EModuleLoadResult::CouldNotBeLoadedByOS, u"KestrinMissingSymbol" },
 	};
 	for (const auto& Case : Cases)

@@ -237,7 +237,7 @@ TEST_F(GitProvider, StagesAndLeavesTheFilesAlone)
 TEST_F(GitProvider, DoesItToAllFilesOrToNone)
 {
 	Git.Run("echo x > b.txt; echo y > c.txt; echo z > d.txt; git add d.txt");
-	const auto Add = [this](const TArray<FString>& Files) { return Provider().Execute(Make("add"), Files); };
+	const auto Add = [](const TArray<FString>& Files) { return Provider().Execute(Make("add"), Files); };
 	EXPECT_EQ(Add({ File("b.txt"), File("none.txt"), File("c.txt") }), ECommandResult::Failed);
 	EXPECT_EQ(Git.Status(), "A  d.txt\n?? b.txt\n?? c.txt\n");
 	EXPECT_EQ(Add({ File("b.txt"), File("c.txt") }), ECommandResult::Succeeded);

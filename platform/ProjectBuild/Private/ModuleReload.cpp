@@ -1,5 +1,6 @@
 #include "ModuleReload.h"
 
+#include "CoreHost/ModuleLibrary.h"
 #include "Modules/ModuleManager.h"
 #include "ModuleTypesReload.h"
 
@@ -15,7 +16,7 @@ FString LoadLibrary(const FBuiltModule& Module)
 	{
 		return FUtf8::Decode(::dlerror());
 	}
-	return Module.bStarted && !::dlsym(Library, "InitializeModule") ? TEXT("no source file has IMPLEMENT_MODULE for it") : FString();
+	return Module.bStarted && !FindModuleEntry(Library) ? TEXT("no source file has IMPLEMENT_MODULE for it") : FString();
 }
 
 /** @return whether all of them load */

@@ -1,5 +1,6 @@
 #include "Modules/ModuleManager.h"
 
+#include "CoreHost/ModuleLibrary.h"
 #include "HAL/FileManager.h"
 #include "HAL/NativePath.h"
 #include "Logging/LogMacros.h"
@@ -31,14 +32,14 @@ FString LibraryName(const FString& ModuleName)
 FInitializeFunction LoadEntry(const FString& File, bool bGame, EModuleLoadResult& OutResult, FString& OutReason)
 {
 	void* const Library = ::dlopen(NativePath(*File).c_str(), RTLD_NOW | (bGame ? RTLD_LOCAL : RTLD_GLOBAL));
-	void* const Entry = Library ? ::dlsym(Library, "InitializeModule") : nullptr;
+	void* const Entry = Library ? FindModuleEntry(Library) : nullptr;
 	if (Entry)
 	{
 		OutResult = EModuleLoadResult::Success;
 		return reinterpret_cast<FInitializeFunction>(Entry);
 	}
 	OutResult = Library ? EModuleLoadResult::FailedToInitialize : EModuleLoadResult::CouldNotBeLoadedByOS;
-	OutReason = FUtf8::Decode(::dlerror());
+	OutReason = Library ? FString(TEXT("no source file has IMPLEMENT_MODULE for it")) : FUtf8::Decode(::dlerror());
 	return nullptr;
 }
 }
