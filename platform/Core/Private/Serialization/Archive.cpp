@@ -164,9 +164,17 @@ void FMemoryReader::Serialize(void* Data, int64 Length)
 		SetError();
 		return;
 	}
-	if (Length > 0)
+	// Nearly all that is read are numbers, whose copies need no call.
+	switch (Length)
 	{
-		std::memcpy(Data, Bytes + Offset, static_cast<SIZE_T>(Length));
+	case 1: std::memcpy(Data, Bytes + Offset, 1); break;
+	case 4: std::memcpy(Data, Bytes + Offset, 4); break;
+	case 8: std::memcpy(Data, Bytes + Offset, 8); break;
+	default:
+		if (Length > 0)
+		{
+			std::memcpy(Data, Bytes + Offset, static_cast<SIZE_T>(Length));
+		}
 	}
 	Offset += Length;
 }

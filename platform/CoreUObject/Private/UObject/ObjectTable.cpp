@@ -73,7 +73,8 @@ void FObjectTable::ChangeClass(UObject* Object, UClass* Class)
 
 UObject* FObjectTable::Find(const UObject* Outer, FName Name) const
 {
-	return ByName.FindRef(FObjectKey{ Outer, Name });
+	// Most objects, and nearly all defaults, that are asked for a name have nothing in them.
+	return Outer && !HasInner(Outer) ? nullptr : ByName.FindRef(FObjectKey{ Outer, Name });
 }
 
 void FObjectTable::GetInstances(const UClass* Class, TArray<UObject*>& Out) const

@@ -58,7 +58,7 @@ public:
 	FItem& GetItem(const UObject* Object) { return Items[Object->InternalIndex]; }
 	/** Places of destroyed objects hold null. */
 	TArray<FItem>& GetItems() { return Items; }
-	bool HasInner(const UObject* Object) { return GetItem(Object).Inner.First != INDEX_NONE; }
+	bool HasInner(const UObject* Object) const { return Items[Object->InternalIndex].Inner.First != INDEX_NONE; }
 	/** Appends the objects directly inside Outer, or those of exactly that class. */
 	void GetInner(const UObject* Outer, TArray<UObject*>& Out) const { Collect(Outer, &FItem::Inner, Out); }
 	void GetInstances(const UClass* Class, TArray<UObject*>& Out) const;
