@@ -126,9 +126,33 @@ TEST(SlateLayout, OfALongColumnOnlyTheRowsThatShowHaveWidgets)
 	EXPECT_GT(Shown.GetLabels().size(), 10u);
 }
 
+TEST(SlateLayout, ARowThatDoesNotFitTakesFromWhatIsOnlyAskedFor)
+{
+	// 100 are asked for three times where 50, 30 and 10 are needed.
+	const TSharedRef<SHorizontalBox> Row = SNew(SHorizontalBox) +
+		SHorizontalBox::Slot().AutoWidth()[SNew(SBox).MinDesiredWidth(100.0f)[SNew(SBox).WidthOverride(50.0f)[Block(1.0f, 20.0f)]]] +
+		SHorizontalBox::Slot().AutoWidth()[SNew(SBox).MinDesiredWidth(100.0f)[SNew(SBox).WidthOverride(30.0f)[Block(1.0f, 20.0f)]]] +
+		SHorizontalBox::Slot().AutoWidth()[SNew(SBox).MinDesiredWidth(100.0f)[SNew(SBox).WidthOverride(10.0f)[Block(1.0f, 20.0f)]]];
+	const struct
+	{
+		int Width;
+		std::vector<int> Widths;
+	} Rows[] = { { 400, { 100, 100, 100 } }, { 195, { 75, 65, 55 } }, { 90, { 50, 30, 10 } }, { 60, { 50, 30, 10 } } };
+	for (const auto& Each : Rows)
+	{
+		const FShown Shown(Row, QSize(Each.Width, 100));
+		std::vector<int> Widths;
+		for (const QRect& Place : GetButtons(Shown))
+		{
+			Widths.push_back(Place.width());
+		}
+		EXPECT_EQ(Widths, Each.Widths) << Each.Width;
+	}
+}
+
 TEST(SlateLayout, WhatNeedsMoreRoomThanThereIsCanBeScrolledTo)
 {
-	const FShown Shown(SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[Block(900.0f, 20.0f)]);
+	const FShown Shown(SNew(SHorizontalBox) + SHorizontalBox::Slot().AutoWidth()[SNew(SBox).WidthOverride(900.0f)]);
 	auto* const Area = qobject_cast<QScrollArea*>(Shown.View);
 	ASSERT_TRUE(Area);
 	EXPECT_GE(Area->horizontalScrollBar()->maximum(), 500);

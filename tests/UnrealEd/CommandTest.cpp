@@ -5,7 +5,7 @@
 
 TEST_F(Blueprints, DeferredCommandsRunInTheNextFrame)
 {
-	FLogLines Log;
+	FLogLines Seen;
 	UPackage* const Package = CreatePackage(TEXT("/Game/Unused"));
 	const TWeakObjectPtr<UObject> Left(NewObject<UBlueprint>(Package, TEXT("Unused")));
 	GEngine->DeferredCommands.Append(
@@ -14,7 +14,7 @@ TEST_F(Blueprints, DeferredCommandsRunInTheNextFrame)
 	FMainLoop::Tick();
 	EXPECT_TRUE(GEngine->DeferredCommands.IsEmpty());
 	EXPECT_FALSE(Left.IsValid()) << "what is left over goes";
-	EXPECT_EQ(Log.Lines.FilterByPredicate([](const FString& Line) { return Line.Contains(TEXT("Command not recognized")); }),
+	EXPECT_EQ(Seen.Lines.FilterByPredicate([](const FString& Line) { return Line.Contains(TEXT("Command not recognized")); }),
 		TArray<FString>{ TEXT("LogGeneral|Warning|Command not recognized: Nonsense 1") });
 }
 

@@ -36,13 +36,28 @@ void ShareRest(const FChildren& Children, qreal Length, std::vector<qreal>& Leng
 }
 }
 
-std::vector<qreal> FWidgetLayout::GetWidthsInRow(const FChildren& Children, qreal Width)
+std::vector<qreal> FWidgetLayout::GetOwnWidthsInRow(const FChildren& Children)
 {
 	std::vector<qreal> Widths(static_cast<SIZE_T>(Children.Num()));
 	for (int32 Index = 0; Index < Children.Num(); ++Index)
 	{
 		const FSlotBase& Slot = Children.GetSlotAt(Index);
 		Widths[Index] = GetShare(Slot) > 0.0 ? 0.0 : GetSlotWidth(Slot);
+	}
+	return Widths;
+}
+
+std::vector<qreal> FWidgetLayout::GetWidthsInRow(const FChildren& Children, qreal Width)
+{
+	std::vector<qreal> Widths = GetOwnWidthsInRow(Children);
+	if (const qreal Sum = std::accumulate(Widths.begin(), Widths.end(), 0.0); Sum > Width)
+	{
+		const TGuardValue<bool> Guard(bLeast, true);
+		const std::vector<qreal> Least = GetOwnWidthsInRow(Children);
+		const qreal LeastSum = std::accumulate(Least.begin(), Least.end(), 0.0);
+		const qreal Part = Sum > LeastSum ? std::max(Width - LeastSum, 0.0) / (Sum - LeastSum) : 0.0;
+		std::transform(Widths.begin(), Widths.end(), Least.begin(), Widths.begin(),
+			[Part](qreal Own, qreal Needed) { return Needed + (Own - Needed) * Part; });
 	}
 	ShareRest(Children, Width, Widths);
 	return Widths;

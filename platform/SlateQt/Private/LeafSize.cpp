@@ -70,6 +70,11 @@ qreal GetPickerWidth(const SOptionPicker& Picker)
 	return std::ceil(Widest) + PickerRoom;
 }
 
+qreal GetLeastPickerWidth()
+{
+	return 2.0 * PickerRoom;
+}
+
 qreal GetPickerHeight()
 {
 	return std::ceil(GetPickerMetrics().height()) + PickerPadding;

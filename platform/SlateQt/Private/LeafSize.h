@@ -14,5 +14,8 @@ qreal GetLabelHeight(const STextBlock& Text);
 qreal GetEditorWidth(const SMultiLineEditableText& Text);
 /** Of the whole text. */
 qreal GetEditorHeight(const SMultiLineEditableText& Text, qreal Width);
+/** Enough for its widest option. */
 qreal GetPickerWidth(const SOptionPicker& Picker);
+/** Enough to be picked from. */
+qreal GetLeastPickerWidth();
 qreal GetPickerHeight();

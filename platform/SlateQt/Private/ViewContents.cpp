@@ -68,7 +68,7 @@ void FViewContents::Refresh()
 
 QSize FViewContents::GetLeastSize()
 {
-	const qreal Width = Layout.GetWidth(*Root);
+	const qreal Width = Layout.GetLeastWidth(*Root);
 	const qreal Given = std::max(Width, static_cast<qreal>(RootCanvas.width()));
 	return QSize(qRound(Width), qRound(Layout.GetHeight(*Root, Given)));
 }

@@ -59,7 +59,8 @@ const FWidgetLayout::FRule FWidgetLayout::Rules[] = {
 		[](FWidgetLayout& Layout, SWidget& Text, qreal Width) { return Layout.GetTextHeight(Text, Width); }, nullptr },
 	{ &IsWidget<SOptionPicker>,
 		[](FWidgetLayout& Layout, SWidget& Picker)
-		{ return Layout.GetKeptWidth(Picker, [&Picker] { return GetPickerWidth(As<SOptionPicker>(Picker)); }); },
+		{ return Layout.GetKeptWidth(Picker,
+			  [&] { return Layout.bLeast ? GetLeastPickerWidth() : GetPickerWidth(As<SOptionPicker>(Picker)); }); },
 		[](FWidgetLayout&, SWidget&, qreal) { return GetPickerHeight(); }, nullptr },
 	{ &IsWidget<SCompoundWidget>, [](FWidgetLayout& Layout, SWidget& Widget) { return Layout.GetContentWidth(Widget); },
 		[](FWidgetLayout& Layout, SWidget& Widget, qreal Width) { return Layout.GetContentHeight(Widget, Width); },
@@ -76,6 +77,12 @@ const FWidgetLayout::FRule& FWidgetLayout::FindRule(SWidget& Widget)
 qreal FWidgetLayout::GetWidth(SWidget& Widget)
 {
 	return FindRule(Widget).GetWidth(*this, Widget);
+}
+
+qreal FWidgetLayout::GetLeastWidth(SWidget& Widget)
+{
+	const TGuardValue<bool> Least(bLeast, true);
+	return GetWidth(Widget);
 }
 
 qreal FWidgetLayout::GetHeight(SWidget& Widget, qreal Width)
@@ -166,7 +173,8 @@ qreal FWidgetLayout::GetBoundedWidth(SWidget& Widget)
 {
 	const SBox& Box = As<SBox>(Widget);
 	const qreal Fixed = static_cast<qreal>(Box.GetWidthOverride());
-	return Fixed > 0.0 ? Fixed : std::max(static_cast<qreal>(Box.GetMinDesiredWidth()), GetContentWidth(Widget));
+	const qreal AskedFor = bLeast ? 0.0 : static_cast<qreal>(Box.GetMinDesiredWidth());
+	return Fixed > 0.0 ? Fixed : std::max(AskedFor, GetContentWidth(Widget));
 }
 
 qreal FWidgetLayout::GetBoundedHeight(SWidget& Widget, qreal Width)
@@ -189,10 +197,10 @@ qreal FWidgetLayout::GetTextHeight(SWidget& Widget, qreal Width)
 
 qreal FWidgetLayout::GetKeptWidth(SWidget& Widget, TFunctionRef<qreal()> Measure)
 {
-	FMeasures& Kept = Keep(Measures, Widget);
-	if (Kept.OwnWidth == Unmeasured)
+	qreal& Width = Keep(Measures, Widget).OwnWidths[bLeast];
+	if (Width == Unmeasured)
 	{
-		Kept.OwnWidth = Measure();
+		Width = Measure();
 	}
-	return Kept.OwnWidth;
+	return Width;
 }

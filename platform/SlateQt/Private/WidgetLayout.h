@@ -18,6 +18,8 @@ public:
 
 	/** What it asks for; texts that wrap and scroll boxes ask for nothing. */
 	qreal GetWidth(SWidget& Widget);
+	/** What it needs to show all that is in it: where a row does not fit, boxes and pickers in it get less than they ask for. */
+	qreal GetLeastWidth(SWidget& Widget);
 	qreal GetHeight(SWidget& Widget, qreal Width);
 	/** Calls the function for the children that show within the clip, in their order. */
 	void PlaceChildren(SWidget& Widget, const QRectF& Area, const QRectF& Clip, FPlaceChild Place);
@@ -59,6 +61,8 @@ private:
 	qreal GetKeptWidth(SWidget& Widget, TFunctionRef<qreal()> Measure);
 
 	std::vector<qreal> GetWidthsInRow(const FChildren& Children, qreal Width);
+	/** Of those that ask for their own; 0 of the others. */
+	std::vector<qreal> GetOwnWidthsInRow(const FChildren& Children);
 	std::vector<qreal> GetHeightsInColumn(const FChildren& Children, qreal Width);
 
 	/** Of a widget whose address may be another's by now; of what is unset nothing was measured yet. */
@@ -71,7 +75,8 @@ private:
 	};
 	struct FMeasures : FKept
 	{
-		qreal OwnWidth = Unmeasured;
+		/** What it asks for, and what it needs. */
+		qreal OwnWidths[2] = { Unmeasured, Unmeasured };
 		/** Where each child of a long column ends, from the column's start on. */
 		std::vector<qreal> Ends;
 	};
@@ -98,6 +103,8 @@ private:
 	}
 	const std::vector<qreal>& GetEnds(SWidget& LongColumn, qreal Width);
 
+	/** Whether widths are measured as those that are needed. */
+	bool bLeast = false;
 	std::unordered_map<const SWidget*, FMeasures> Measures;
 	std::unordered_map<const SWidget*, FTextHeight> TextHeights;
 };
