@@ -114,6 +114,17 @@ TEST_F(ObjectConfig, SavesOverWhatAnotherProgramWrote)
 	EXPECT_TRUE(ReadDefault().starts_with("[New]\nA=1\n[/Script/TestObjects.TestSettings]\nLimit=1\nUnknown=kept\n")) << ReadDefault();
 }
 
+TEST_F(ObjectConfig, SavesOnePropertyAndLeavesTheOthers)
+{
+	WriteDefault("[/Script/TestObjects.TestSettings]\nLimit=1\nKey=old\n");
+	UTestSettings* const Settings = Load<UTestSettings>();
+	WriteDefault("[/Script/TestObjects.TestSettings]\nLimit=1\nKey=by hand\n");
+	Settings->Limit = 2;
+	const FProperty* const Limit = UTestSettings::StaticClass()->FindPropertyByName("Limit");
+	EXPECT_TRUE(Settings->UpdateSinglePropertyInConfigFile(Limit, Settings->GetDefaultConfigFilename()));
+	EXPECT_EQ(ReadDefault(), "[/Script/TestObjects.TestSettings]\nLimit=2\nKey=by hand\n");
+}
+
 TEST_F(ObjectConfig, CopiesToTheDefaultObjectWhereAllowed)
 {
 	UTestSettings* const Defaults = GetMutableDefault<UTestSettings>();

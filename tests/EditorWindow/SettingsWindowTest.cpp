@@ -233,7 +233,20 @@ TEST_F(SettingsWindow, EditsReachTheObjectAndTheFileAsASaveDoes)
 	EXPECT_THAT(OfPage, Not(HasSubstr("bReset")));
 	std::filesystem::remove(Directory.Native(PluginFile));
 	Plugin().SaveConfig();
-	EXPECT_EQ(Directory.Read(PluginFile), OfPage);
+	std::istringstream Lines(OfPage);
+	for (std::string Line; std::getline(Lines, Line);)
+	{
+		EXPECT_THAT(Directory.Read(PluginFile), HasSubstr(Line + "\n"));
+	}
+}
+
+TEST_F(SettingsWindow, WhatIsWrittenToTheFileMeanwhileStaysInIt)
+{
+	OpenPlugin();
+	Directory.Write(PluginFile, "; mine\n[/Script/Kestrin.KestrinSettings]\nApiKey=by hand\nNew=1\n");
+	Choose("LogRetentionPolicy", 2);
+	EXPECT_EQ(Directory.Read(PluginFile),
+		"; mine\n[/Script/Kestrin.KestrinSettings]\nApiKey=by hand\nNew=1\nLogRetentionPolicy=KeepAll\n");
 }
 
 TEST_F(SettingsWindow, AResetBoxActsAsAButton)

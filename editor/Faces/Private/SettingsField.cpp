@@ -68,7 +68,7 @@ bool SetSettingsField(const FString& Name, const FJsonValue& Value, bool bSave, 
 		OutError = FString::Printf(TEXT("The field '%s' can't be set to '%s'."), *Name, *Text);
 		return false;
 	}
-	if (!FHostSettings::FinishEdit(*Settings, *Property, bSave))
+	if (!FHostSettings::FinishEdit(*Settings, *Property, bSave ? ESettingsSave::AllProperties : ESettingsSave::Nothing))
 	{
 		OutError = FString::Printf(TEXT("The field '%s' is set, but the settings can't be saved."), *Name);
 		return false;

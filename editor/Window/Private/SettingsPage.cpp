@@ -189,7 +189,8 @@ void FSettingsPage::AddProperty(FProperty& Property, int Depth)
 
 void FSettingsPage::FinishEdit(FProperty& Property)
 {
-	const bool bSaved = FHostSettings::FinishEdit(*Object, Property, Property.HasAnyPropertyFlags(CPF_Config));
+	const ESettingsSave Save = Property.HasAnyPropertyFlags(CPF_Config) ? ESettingsSave::EditedProperty : ESettingsSave::Nothing;
+	const bool bSaved = FHostSettings::FinishEdit(*Object, Property, Save);
 	Problem->setVisible(!bSaved);
 	Refresh();
 }

@@ -59,20 +59,21 @@ TArray<FSettingsEntry> FHostSettings::GetSections()
 	return Module ? Module->GetEntries() : TArray<FSettingsEntry>();
 }
 
-bool FHostSettings::FinishEdit(UObject& Object, FProperty& Property, bool bSave)
+bool FHostSettings::FinishEdit(UObject& Object, FProperty& Property, ESettingsSave Save)
 {
 	FPropertyChangedEvent Event(&Property, EPropertyChangeType::ValueSet);
 	Object.PostEditChangeProperty(Event);
-	if (!bSave)
+	if (Save == ESettingsSave::Nothing)
 	{
 		return true;
 	}
-	if (Object.GetClass()->HasAnyClassFlags(CLASS_DefaultConfig))
+	if (!Object.GetClass()->HasAnyClassFlags(CLASS_DefaultConfig))
 	{
-		return Object.TryUpdateDefaultConfigFile();
+		Object.SaveConfig();
+		return true;
 	}
-	Object.SaveConfig();
-	return true;
+	return Save == ESettingsSave::AllProperties ? Object.TryUpdateDefaultConfigFile()
+												: Object.UpdateSinglePropertyInConfigFile(&Property, Object.GetDefaultConfigFilename());
 }
 
 IMPLEMENT_MODULE(FSettingsModule, Settings)

@@ -7,7 +7,7 @@
 
 namespace
 {
-FString GetDefaultConfigFilename(const UClass* Class)
+FString GetDefaultFilename(const UClass* Class)
 {
 	return FPaths::Combine(FPaths::ProjectConfigDir(), TEXT("Default") + Class->ClassConfigName.ToString() + TEXT(".ini"));
 }
@@ -17,7 +17,7 @@ FString GetConfigFilename(const UClass* Class)
 {
 	if (Class->HasAnyClassFlags(CLASS_DefaultConfig))
 	{
-		return GetDefaultConfigFilename(Class);
+		return GetDefaultFilename(Class);
 	}
 	return FPaths::Combine(FPaths::ProjectSavedDir(), TEXT("Config/LinuxEditor"), Class->ClassConfigName.ToString() + TEXT(".ini"));
 }
@@ -25,7 +25,7 @@ FString GetConfigFilename(const UClass* Class)
 /** The files that a class's config is read from, each over those before it. */
 TArray<FString> GetConfigFilenames(const UClass* Class)
 {
-	TArray<FString> Filenames{ GetDefaultConfigFilename(Class) };
+	TArray<FString> Filenames{ GetDefaultFilename(Class) };
 	Filenames.AddUnique(GetConfigFilename(Class));
 	return Filenames;
 }
@@ -136,14 +136,14 @@ void SetValue(FConfigFile& File, const FString& Section, const FProperty* Proper
 	File.SetArray(*Section, *Property->GetName(), Values);
 }
 
-/** Writes the properties that have one of Flags to the file as it is on disk now. */
-bool SaveTo(UObject* Object, FConfigCacheIni& Config, const FString& Filename, uint64 Flags)
+/** Writes some of the properties to the file as it is on disk now. */
+bool SaveTo(UObject* Object, FConfigCacheIni& Config, const FString& Filename, TFunctionRef<bool(const FProperty& Property)> IsWanted)
 {
 	FConfigFile& File = *Config.Find(Filename);
 	File.Read(Filename);
 	for (TFieldIterator<FProperty> Property(Object->GetClass()); Property; ++Property)
 	{
-		if (Property->HasAnyPropertyFlags(Flags))
+		if (IsWanted(**Property))
 		{
 			SetValue(File, GetSection(Object->GetClass(), *Property), *Property, Object);
 		}
@@ -192,7 +192,8 @@ void UObject::SaveConfig(uint64 Flags, const TCHAR* Filename, FConfigCacheIni* C
 		UE_LOG(LogConfig, Warning, TEXT("%s has no config file to be saved to"), *GetPathName());
 		return;
 	}
-	SaveTo(this, *Config, Filename ? FString(Filename) : GetConfigFilename(GetClass()), Flags);
+	SaveTo(this, *Config, Filename ? FString(Filename) : GetConfigFilename(GetClass()),
+		[Flags](const FProperty& Property) { return Property.HasAnyPropertyFlags(Flags); });
 	UObject* const Defaults = GetClass()->GetDefaultObject();
 	if (!bAllowCopyToDefaultObject || Defaults == this)
 	{
@@ -213,6 +214,16 @@ bool UObject::TryUpdateDefaultConfigFile(const FString& SpecificFileLocation)
 	{
 		return false;
 	}
-	const FString Filename = SpecificFileLocation.IsEmpty() ? GetDefaultConfigFilename(GetClass()) : SpecificFileLocation;
-	return SaveTo(this, *GConfig, Filename, CPF_Config);
+	return SaveTo(this, *GConfig, SpecificFileLocation.IsEmpty() ? GetDefaultConfigFilename() : SpecificFileLocation,
+		[](const FProperty& Property) { return Property.HasAnyPropertyFlags(CPF_Config); });
+}
+
+bool UObject::UpdateSinglePropertyInConfigFile(const FProperty* InProperty, const FString& InConfigIniName)
+{
+	return SaveTo(this, *GConfig, InConfigIniName, [InProperty](const FProperty& Property) { return &Property == InProperty; });
+}
+
+FString UObject::GetDefaultConfigFilename() const
+{
+	return GetDefaultFilename(GetClass());
 }

@@ -172,6 +172,13 @@ public:
 		bool bAllowCopyToDefaultObject = true);
 	/** Writes the config properties to <Project>/Config/Default<Name>.ini. @return false when the file can't be written */
 	bool TryUpdateDefaultConfigFile(const FString& SpecificFileLocation = FString());
+	/**
+	 * Writes one config property to a file and leaves what the file says of the others.
+	 * @return the stand-in's own: false when the file can't be written, which is logged
+	 */
+	bool UpdateSinglePropertyInConfigFile(const FProperty* InProperty, const FString& InConfigIniName);
+	/** <Project>/Config/Default<Name>.ini, by the class's config name. */
+	FString GetDefaultConfigFilename() const;
 
 private:
 	friend class FObjectTable;
