@@ -5,6 +5,7 @@
 #include "CoreHost/Project.h"
 #include "Framework/Docking/TabManager.h"
 #include "HAL/FileManager.h"
+#include "Misc/OutputDeviceRedirector.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "ProjectDescriptor.h"
@@ -132,6 +133,8 @@ int32 RunEditor(FProgramOptions Options)
 		return Fail(FText::FromString(FString::Printf(TEXT("%s: the log can't be written"), *Options.LogFile)));
 	}
 	FHostClock::SetRate(Options.ClockRate);
+	// The window's log shows from the start on what the window comes too late for.
+	GLog->EnableBacklog(Options.Face.Face == EEditorFace::Window);
 
 	FText Error;
 	LoadEngine();

@@ -35,6 +35,22 @@ TEST(Log, LinesOfOtherThreadsComeOnTheGameThread)
 	EXPECT_EQ(Log.Lines.Num(), 3);
 }
 
+TEST(Log, ADeviceThatComesLaterGetsTheBacklog)
+{
+	UE_LOG(LogTemp, Display, TEXT("too early"));
+	GLog->EnableBacklog(true);
+	UE_LOG(LogTemp, Display, TEXT("first"));
+	std::thread([] { UE_LOG(LogTemp, Display, TEXT("from afar")); }).join();
+	FMainLoop::Tick();
+	FLogLines Log;
+	GLog->SerializeBacklog(&Log);
+	EXPECT_EQ(Log.Lines, (TArray<FString>{ TEXT("LogTemp|Display|first"), TEXT("LogTemp|Display|from afar") }));
+	GLog->EnableBacklog(false);
+	Log.Lines.Empty();
+	GLog->SerializeBacklog(&Log);
+	EXPECT_TRUE(Log.Lines.IsEmpty());
+}
+
 TEST(Log, DevicesMayLogAndRemoveEachOther)
 {
 	struct FTalker final : FOutputDevice

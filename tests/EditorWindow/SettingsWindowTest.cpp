@@ -245,8 +245,7 @@ TEST_F(SettingsWindow, WhatIsWrittenToTheFileMeanwhileStaysInIt)
 	OpenPlugin();
 	Directory.Write(PluginFile, "; mine\n[/Script/Kestrin.KestrinSettings]\nApiKey=by hand\nNew=1\n");
 	Choose("LogRetentionPolicy", 2);
-	EXPECT_EQ(Directory.Read(PluginFile),
-		"; mine\n[/Script/Kestrin.KestrinSettings]\nApiKey=by hand\nNew=1\nLogRetentionPolicy=KeepAll\n");
+	EXPECT_EQ(Directory.Read(PluginFile), "; mine\n[/Script/Kestrin.KestrinSettings]\nApiKey=by hand\nNew=1\nLogRetentionPolicy=KeepAll\n");
 }
 
 TEST_F(SettingsWindow, AResetBoxActsAsAButton)

@@ -117,6 +117,8 @@ public:
 		Layout->addWidget(View);
 		Batch.setSingleShot(true);
 		connect(&Batch, &QTimer::timeout, this, [this] { View->Append(Waiting); });
+		GLog->SerializeBacklog(this);
+		GLog->EnableBacklog(false);
 		GLog->AddOutputDevice(this);
 	}
 	~FOutputLog() override { GLog->RemoveOutputDevice(this); }

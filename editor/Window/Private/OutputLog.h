@@ -3,7 +3,7 @@
 #include "SlateQtHost/Qt.h"
 
 /**
- * The newest lines of the global log, with the local time and a filter. Lines that are logged before it is made are not in it.
+ * The newest lines of the global log, with the local time and a filter. It takes over the backlog of the global log, which keeps none afterwards.
  * @param Parent may be null
  */
 EDITORWINDOW_API QWidget* MakeOutputLog(QWidget* Parent);

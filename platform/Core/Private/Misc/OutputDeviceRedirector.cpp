@@ -39,8 +39,35 @@ bool FOutputDeviceRedirector::IsRedirectingTo(const FOutputDevice* OutputDevice)
 	return std::find(Devices.begin(), Devices.end(), OutputDevice) != Devices.end();
 }
 
+void FOutputDeviceRedirector::EnableBacklog(bool bEnable)
+{
+	FScopeLock Lock(&BacklogLock);
+	bBacklogEnabled = bEnable;
+	Backlog.clear();
+}
+
+void FOutputDeviceRedirector::SerializeBacklog(FOutputDevice* OutputDevice)
+{
+	std::vector<FLine> Lines;
+	{
+		FScopeLock Lock(&BacklogLock);
+		Lines = Backlog;
+	}
+	for (const FLine& Line : Lines)
+	{
+		OutputDevice->Serialize(*Line.Message, Line.Verbosity, Line.Category);
+	}
+}
+
 void FOutputDeviceRedirector::Serialize(const TCHAR* Message, ELogVerbosity::Type Verbosity, const FName& Category)
 {
+	{
+		FScopeLock Lock(&BacklogLock);
+		if (bBacklogEnabled)
+		{
+			Backlog.push_back({ FString(Message), Verbosity, Category });
+		}
+	}
 	if (IsInGameThread())
 	{
 		FlushThreadedLogs();

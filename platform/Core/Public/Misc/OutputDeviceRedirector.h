@@ -23,6 +23,11 @@ public:
 	/** Gives the devices of the game thread what other threads have logged. Game thread. */
 	void FlushThreadedLogs();
 
+	/** Keeps lines for a device that comes later, from now on; false drops those that were kept. */
+	void EnableBacklog(bool bEnable);
+	/** Gives a device the lines that are kept, the oldest first. */
+	void SerializeBacklog(FOutputDevice* OutputDevice);
+
 private:
 	struct FLine
 	{
@@ -39,6 +44,9 @@ private:
 	std::vector<FOutputDevice*> Devices;
 	FCriticalSection WaitingLock;
 	std::vector<FLine> Waiting;
+	FCriticalSection BacklogLock;
+	bool bBacklogEnabled = false;
+	std::vector<FLine> Backlog;
 };
 
 CORE_API FOutputDeviceRedirector* GetGlobalLogSingleton();
