@@ -1,3 +1,4 @@
+#include "CoreHost/MainLoop.h"
 #include "Shown.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SComboBox.h"
@@ -29,6 +30,7 @@ protected:
 		return FReply::Handled();
 	}
 
+	EVisibility Visibility = EVisibility::Visible;
 	bool bInputEnabled = true;
 	bool bButtonEnabled = true;
 	int32 Clicks = 0;
@@ -42,6 +44,7 @@ protected:
 		+ SVerticalBox::Slot().AutoHeight()
 		[
 			SAssignNew(Said, SMultiLineEditableText).IsReadOnly(true).AutoWrapText(true)
+			.Visibility_Lambda([this] { return Visibility; })
 			.Text(FText::FromString(TEXT("<b>bold</b>\t\x01 \u0645\u0631\u062D\u0628\u0627")))
 		]
 		+ SVerticalBox::Slot().AutoHeight()
@@ -61,7 +64,7 @@ protected:
 		]
 		+ SVerticalBox::Slot().AutoHeight()
 		[
-			SNew(SButton).IsEnabled_Lambda([this] { return bButtonEnabled; }).ToolTipText(FText::FromString(TEXT("Goes on")))
+			SNew(SButton).Visibility_Lambda([this] { return Visibility; }).IsEnabled_Lambda([this] { return bButtonEnabled; }).ToolTipText(FText::FromString(TEXT("Goes on")))
 			.OnClicked_Lambda([this] { ++Clicks; return FReply::Handled(); })
 			[
 				SNew(STextBlock).Text(FText::FromString(TEXT("Go")))
@@ -210,6 +213,22 @@ TEST_F(SlateInput, TheFocusComesBackToTheInput)
 	bInputEnabled = true;
 	Shown.Refresh();
 	EXPECT_TRUE(Picker->hasFocus());
+}
+
+TEST_F(SlateInput, EventsOfWhatNoLongerShowsReachNobody)
+{
+	const QPointer<QTextEdit> OldText = SaidEdit;
+	const QPointer<QAbstractButton> OldButton = Button;
+	Visibility = EVisibility::Collapsed;
+	FMainLoop::Tick();
+	ASSERT_TRUE(OldText && OldButton) << "Qt deletes them after their last events";
+	Said->SetCaret(1);
+	OldText->moveCursor(QTextCursor::End);
+	OldButton->click();
+	EXPECT_EQ(Said->GetCaret(), 1);
+	EXPECT_EQ(Clicks, 0);
+	Shown.Refresh();
+	EXPECT_FALSE(OldText || OldButton);
 }
 
 TEST_F(SlateInput, NamesAndRolesReachAssistiveTools)

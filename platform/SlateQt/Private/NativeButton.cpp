@@ -8,23 +8,44 @@
 namespace
 {
 /** Draws itself in its state's fill; what is on it stands on a canvas. */
-class FButtonFace final : public QAbstractButton
+class FNativeButton final : public QAbstractButton, public FNativeWidget
 {
 public:
-	explicit FButtonFace(QWidget* Parent)
+	FNativeButton(SButton& Button, QWidget* Parent)
 		: QAbstractButton(Parent)
+		, FNativeWidget(Button)
 	{
 		setAttribute(Qt::WA_Hover);
 		Content.setAttribute(Qt::WA_TransparentForMouseEvents);
+		connect(this, &QAbstractButton::clicked, this,
+			[this]
+			{
+			if (const TSharedPtr<SWidget> Clicked = GetSlate())
+			{
+				static_cast<SButton&>(*Clicked).ExecuteOnClick();
+			}
+		});
 	}
 
-	FCanvas Content{ this };
-	TWeakPtr<SWidget> Slate;
+	QWidget& GetQt() override { return *this; }
+
+	void Follow(FViewContents& Contents) override
+	{
+		const TSharedPtr<SWidget> Button = GetSlate();
+		Content.setGeometry(rect());
+		Content.BeginFills();
+		Contents.PlaceChildren(*Button, Content);
+		Content.EndFills();
+		if (const QString Name = ToQString(FWidgetDriver::GetShownText(Button.ToSharedRef())); accessibleName() != Name)
+		{
+			setAccessibleName(Name);
+		}
+	}
 
 protected:
 	void paintEvent(QPaintEvent*) override
 	{
-		const TSharedPtr<SWidget> Button = Slate.Pin();
+		const TSharedPtr<SWidget> Button = GetSlate();
 		if (!Button.IsValid())
 		{
 			return;
@@ -45,47 +66,15 @@ protected:
 			QAbstractButton::keyPressEvent(Event);
 			return;
 		}
-		Event->setAccepted(OfferKey(Slate.Pin(), *Event));
-	}
-};
-
-class FNativeButton final : public FNativeWidget
-{
-public:
-	FNativeButton(SButton& Button, QWidget* Parent)
-		: FNativeWidget(Button, new FButtonFace(Parent))
-	{
-		GetFace().Slate = GetSlate();
-		QObject::connect(&GetFace(), &QAbstractButton::clicked, &GetFace(),
-			[Slate = GetFace().Slate]
-			{
-			if (const TSharedPtr<SWidget> Clicked = Slate.Pin())
-			{
-				static_cast<SButton&>(*Clicked).ExecuteOnClick();
-			}
-		});
-	}
-
-	void Follow(FViewContents& Contents) override
-	{
-		const TSharedPtr<SWidget> Button = GetSlate();
-		FButtonFace& Face = GetFace();
-		Face.Content.setGeometry(Face.rect());
-		Face.Content.BeginFills();
-		Contents.PlaceChildren(*Button, Face.Content);
-		Face.Content.EndFills();
-		if (const QString Name = ToQString(FWidgetDriver::GetShownText(Button.ToSharedRef())); Face.accessibleName() != Name)
-		{
-			Face.setAccessibleName(Name);
-		}
+		Event->setAccepted(OfferKey(GetSlate(), *Event));
 	}
 
 private:
-	FButtonFace& GetFace() { return static_cast<FButtonFace&>(*GetQt()); }
+	FCanvas Content{ this };
 };
 }
 
-TUniquePtr<FNativeWidget> MakeNativeButton(SWidget& Button, QWidget* Parent)
+FNativeWidget* MakeNativeButton(SWidget& Button, QWidget* Parent)
 {
-	return MakeUnique<FNativeButton>(static_cast<SButton&>(Button), Parent);
+	return new FNativeButton(static_cast<SButton&>(Button), Parent);
 }

@@ -12,11 +12,12 @@ bool IsPageKey(int Key)
 }
 
 /** Qt's editor on the text: it does what editors do (selection, the clipboard, input methods, both writing directions, taking back). */
-class FEditorFace final : public QTextEdit
+class FNativeEditor final : public QTextEdit, public FNativeWidget
 {
 public:
-	FEditorFace(const SMultiLineEditableText& Text, QWidget* Parent)
+	FNativeEditor(SMultiLineEditableText& Text, QWidget* Parent)
 		: QTextEdit(Parent)
+		, FNativeWidget(Text)
 	{
 		setFrameShape(QFrame::NoFrame);
 		setAcceptRichText(false);
@@ -31,38 +32,47 @@ public:
 		}
 		PrepareTextDocument(*document(), Text);
 		setFont(document()->defaultFont());
-		const QColor Color = ToQColor(Text.GetForegroundColor().GetSpecifiedColor());
-		QPalette Palette;
-		Palette.setColor(QPalette::Base, Qt::transparent);
-		Palette.setColor(QPalette::Text, Color);
-		Palette.setColor(QPalette::Disabled, QPalette::Text, QColor(Color.red(), Color.green(), Color.blue(), 110));
-		Palette.setColor(QPalette::PlaceholderText, QColor(Color.red(), Color.green(), Color.blue(), 130));
-		setPalette(Palette);
+		SetColor(ToQColor(Text.GetForegroundColor().GetSpecifiedColor()));
+		connect(this, &QTextEdit::textChanged, this, [this] { TakeText(); });
+		connect(this, &QTextEdit::cursorPositionChanged, this, [this] { TakeCaret(); });
 	}
 
-	std::function<bool(const QKeyEvent& Event)> OnKeyFirst;
-	std::function<bool(const QKeyEvent& Event)> OnKeyLast;
+	QWidget& GetQt() override { return *this; }
+
+	void Follow(FViewContents&) override
+	{
+		const TSharedPtr<SWidget> Widget = GetSlate();
+		const SMultiLineEditableText& Text = static_cast<const SMultiLineEditableText&>(*Widget);
+		FollowText(Text);
+		if (const QString Hint = ToQString(Text.GetHintText().ToString()); placeholderText() != Hint)
+		{
+			setPlaceholderText(Hint);
+			setAccessibleName(Hint);
+		}
+	}
+
+	bool IsWorthKeeping() const override { return textCursor().hasSelection(); }
 
 protected:
 	void keyPressEvent(QKeyEvent* Event) override
 	{
-		if (OnKeyFirst(*Event))
+		if (OfferToHandler(*Event))
 		{
 			Event->accept();
 			return;
 		}
 		// The page keys of a text that shows whole are for what it stands in.
-		if (!(isReadOnly() && IsPageKey(Event->key())))
-		{
-			QTextEdit::keyPressEvent(Event);
-		}
-		else
+		if (isReadOnly() && IsPageKey(Event->key()))
 		{
 			Event->ignore();
 		}
-		if (!Event->isAccepted())
+		else
 		{
-			Event->setAccepted(OnKeyLast(*Event));
+			QTextEdit::keyPressEvent(Event);
+		}
+		if (const TSharedPtr<SWidget> Text = GetSlate(); Text.IsValid() && !Event->isAccepted())
+		{
+			Event->setAccepted(OfferKey(Text->GetParentWidget(), *Event));
 		}
 	}
 	void wheelEvent(QWheelEvent* Event) override
@@ -76,41 +86,18 @@ protected:
 			Event->ignore();
 		}
 	}
-};
-
-class FNativeEditor final : public FNativeWidget
-{
-public:
-	FNativeEditor(SMultiLineEditableText& Text, QWidget* Parent)
-		: FNativeWidget(Text, new FEditorFace(Text, Parent))
-	{
-		FEditorFace& Face = GetFace();
-		Face.OnKeyFirst = [this](const QKeyEvent& Event) { return OfferToHandler(Event); };
-		Face.OnKeyLast = [this](const QKeyEvent& Event)
-		{
-			const TSharedPtr<SWidget> Slate = GetSlate();
-			return Slate.IsValid() && OfferKey(Slate->GetParentWidget(), Event);
-		};
-		QObject::connect(&Face, &QTextEdit::textChanged, &Face, [this] { TakeText(); });
-		QObject::connect(&Face, &QTextEdit::cursorPositionChanged, &Face, [this] { TakeCaret(); });
-	}
-
-	void Follow(FViewContents&) override
-	{
-		const TSharedPtr<SWidget> Slate = GetSlate();
-		const SMultiLineEditableText& Text = static_cast<const SMultiLineEditableText&>(*Slate);
-		FollowText(Text);
-		if (const QString Hint = ToQString(Text.GetHintText().ToString()); GetFace().placeholderText() != Hint)
-		{
-			GetFace().setPlaceholderText(Hint);
-			GetFace().setAccessibleName(Hint);
-		}
-	}
-
-	bool IsWorthKeeping() const override { return static_cast<FEditorFace&>(*GetQt()).textCursor().hasSelection(); }
 
 private:
-	FEditorFace& GetFace() { return static_cast<FEditorFace&>(*GetQt()); }
+	void SetColor(const QColor& Color)
+	{
+		const auto Fainter = [&Color](int Alpha) { return QColor(Color.red(), Color.green(), Color.blue(), Alpha); };
+		QPalette Palette;
+		Palette.setColor(QPalette::Base, Qt::transparent);
+		Palette.setColor(QPalette::Text, Color);
+		Palette.setColor(QPalette::Disabled, QPalette::Text, Fainter(110));
+		Palette.setColor(QPalette::PlaceholderText, Fainter(130));
+		setPalette(Palette);
+	}
 
 	void FollowText(const SMultiLineEditableText& Text)
 	{
@@ -122,53 +109,49 @@ private:
 			bShown = true;
 			if (!bSame)
 			{
-				GetFace().setPlainText(ToQString(Shown.ToString()));
+				setPlainText(ToQString(Shown.ToString()));
 			}
 		}
-		if (!Text.IsTextReadOnly() && GetFace().textCursor().position() != Text.GetCaret())
+		if (!Text.IsTextReadOnly() && textCursor().position() != Text.GetCaret())
 		{
-			QTextCursor Cursor = GetFace().textCursor();
-			Cursor.setPosition(std::min(Text.GetCaret(), GetFace().document()->characterCount() - 1));
-			GetFace().setTextCursor(Cursor);
+			QTextCursor Cursor = textCursor();
+			Cursor.setPosition(std::min(Text.GetCaret(), document()->characterCount() - 1));
+			setTextCursor(Cursor);
 		}
 	}
 
 	/** @return whether the text's own handler has dealt with the key */
 	bool OfferToHandler(const QKeyEvent& Event)
 	{
-		const TSharedPtr<SWidget> Slate = GetSlate();
-		if (!Slate.IsValid())
+		const TSharedPtr<SWidget> Widget = GetSlate();
+		if (!Widget.IsValid())
 		{
 			return false;
 		}
-		SMultiLineEditableText& Text = static_cast<SMultiLineEditableText&>(*Slate);
+		SMultiLineEditableText& Text = static_cast<SMultiLineEditableText&>(*Widget);
 		const bool bHandled = Text.OfferToKeyDownHandler(FGeometry(), ToKeyEvent(Event)).IsEventHandled();
-		// The handler may have closed what shows the text.
-		if (GetQt())
-		{
-			FollowText(Text);
-		}
+		FollowText(Text);
 		return bHandled;
 	}
 
 	/** What the user has typed. */
 	void TakeText()
 	{
-		const TSharedPtr<SWidget> Slate = GetSlate();
-		if (!bFollowing && Slate.IsValid() && !GetFace().isReadOnly())
+		const TSharedPtr<SWidget> Text = GetSlate();
+		if (!bFollowing && Text.IsValid() && !isReadOnly())
 		{
-			Shown = FText::FromString(GetDocumentText(*GetFace().document()));
-			static_cast<SMultiLineEditableText&>(*Slate).SetText(Shown);
+			Shown = FText::FromString(GetDocumentText(*document()));
+			static_cast<SMultiLineEditableText&>(*Text).SetText(Shown);
 			TakeCaret();
 		}
 	}
 
 	void TakeCaret()
 	{
-		const TSharedPtr<SWidget> Slate = GetSlate();
-		if (!bFollowing && Slate.IsValid())
+		const TSharedPtr<SWidget> Text = GetSlate();
+		if (!bFollowing && Text.IsValid())
 		{
-			static_cast<SMultiLineEditableText&>(*Slate).SetCaret(GetFace().textCursor().position());
+			static_cast<SMultiLineEditableText&>(*Text).SetCaret(textCursor().position());
 		}
 	}
 
@@ -179,7 +162,7 @@ private:
 };
 }
 
-TUniquePtr<FNativeWidget> MakeNativeEditor(SWidget& EditableText, QWidget* Parent)
+FNativeWidget* MakeNativeEditor(SWidget& EditableText, QWidget* Parent)
 {
-	return MakeUnique<FNativeEditor>(static_cast<SMultiLineEditableText&>(EditableText), Parent);
+	return new FNativeEditor(static_cast<SMultiLineEditableText&>(EditableText), Parent);
 }

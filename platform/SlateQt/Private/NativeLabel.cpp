@@ -6,16 +6,19 @@
 namespace
 {
 /** A line of text, or several; the mouse does not see it. */
-class FNativeLabel final : public FNativeWidget
+class FNativeLabel final : public QLabel, public FNativeWidget
 {
 public:
 	FNativeLabel(STextBlock& Text, QWidget* Parent)
-		: FNativeWidget(Text, new QLabel(Parent))
+		: QLabel(Parent)
+		, FNativeWidget(Text)
 	{
-		GetLabel().setTextFormat(Qt::PlainText);
-		GetLabel().setAttribute(Qt::WA_TransparentForMouseEvents);
-		GetLabel().setFont(GetQtFont(Text.GetFont()).Font);
+		setTextFormat(Qt::PlainText);
+		setAttribute(Qt::WA_TransparentForMouseEvents);
+		setFont(GetQtFont(Text.GetFont()).Font);
 	}
+
+	QWidget& GetQt() override { return *this; }
 
 	void Follow(FViewContents&) override
 	{
@@ -25,7 +28,7 @@ public:
 		{
 			bShown = true;
 			Shown = Text.GetText();
-			GetLabel().setText(ToShownText(Shown.ToString()));
+			setText(ToShownText(Shown.ToString()));
 		}
 		if (const QColor Now = ToQColor(Text.GetColorAndOpacity().GetSpecifiedColor()); Now != Color)
 		{
@@ -33,15 +36,13 @@ public:
 			QPalette Palette;
 			Palette.setColor(QPalette::WindowText, Now);
 			Palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(Now.red(), Now.green(), Now.blue(), Now.alpha() * 2 / 5));
-			GetLabel().setPalette(Palette);
+			setPalette(Palette);
 		}
 		constexpr Qt::Alignment Sides[] = { Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight };
-		GetLabel().setAlignment(Sides[Text.GetJustification()] | Qt::AlignTop);
+		setAlignment(Sides[Text.GetJustification()] | Qt::AlignTop);
 	}
 
 private:
-	QLabel& GetLabel() { return static_cast<QLabel&>(*GetQt()); }
-
 	bool bShown = false;
 	/** Kept, so that no other text has its address. */
 	FText Shown;
@@ -49,7 +50,7 @@ private:
 };
 }
 
-TUniquePtr<FNativeWidget> MakeNativeLabel(SWidget& TextBlock, QWidget* Parent)
+FNativeWidget* MakeNativeLabel(SWidget& TextBlock, QWidget* Parent)
 {
-	return MakeUnique<FNativeLabel>(static_cast<STextBlock&>(TextBlock), Parent);
+	return new FNativeLabel(static_cast<STextBlock&>(TextBlock), Parent);
 }

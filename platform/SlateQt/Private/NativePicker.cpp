@@ -5,52 +5,46 @@
 
 namespace
 {
-/** A wheel that goes over it on its way through the panel changes nothing. */
-class FPickerBox final : public QComboBox
-{
-public:
-	using QComboBox::QComboBox;
-
-protected:
-	void wheelEvent(QWheelEvent* Event) override { Event->ignore(); }
-};
-
 /** Its options are asked for when it is made; what it shows is the picker's content. */
-class FNativePicker final : public FNativeWidget
+class FNativePicker final : public QComboBox, public FNativeWidget
 {
 public:
 	FNativePicker(SOptionPicker& Picker, QWidget* Parent)
-		: FNativeWidget(Picker, new FPickerBox(Parent))
+		: QComboBox(Parent)
+		, FNativeWidget(Picker)
 	{
 		for (int32 Index = 0; Index < Picker.GetNumOptions(); ++Index)
 		{
-			GetBox().addItem(ToQString(FWidgetDriver::GetShownText(Picker.GenerateOption(Index))));
+			addItem(ToQString(FWidgetDriver::GetShownText(Picker.GenerateOption(Index))));
 		}
-		QObject::connect(&GetBox(), &QComboBox::activated, &GetBox(),
-			[Slate = TWeakPtr<SWidget>(GetSlate())](int Index)
+		connect(this, &QComboBox::activated, this,
+			[this](int Index)
 			{
-			if (const TSharedPtr<SWidget> Picked = Slate.Pin())
+			if (const TSharedPtr<SWidget> Picked = GetSlate())
 			{
 				static_cast<SOptionPicker&>(*Picked).PickOption(Index);
 			}
 		});
 	}
 
+	QWidget& GetQt() override { return *this; }
+
 	void Follow(FViewContents&) override
 	{
-		const int Selected = GetBox().findText(ToQString(FWidgetDriver::GetShownText(GetSlate().ToSharedRef())));
-		if (GetBox().currentIndex() != Selected)
+		const int Selected = findText(ToQString(FWidgetDriver::GetShownText(GetSlate().ToSharedRef())));
+		if (currentIndex() != Selected)
 		{
-			GetBox().setCurrentIndex(Selected);
+			setCurrentIndex(Selected);
 		}
 	}
 
-private:
-	QComboBox& GetBox() { return static_cast<QComboBox&>(*GetQt()); }
+protected:
+	/** A wheel that goes over it on its way through the panel changes nothing. */
+	void wheelEvent(QWheelEvent* Event) override { Event->ignore(); }
 };
 }
 
-TUniquePtr<FNativeWidget> MakeNativePicker(SWidget& Picker, QWidget* Parent)
+FNativeWidget* MakeNativePicker(SWidget& Picker, QWidget* Parent)
 {
-	return MakeUnique<FNativePicker>(static_cast<SOptionPicker&>(Picker), Parent);
+	return new FNativePicker(static_cast<SOptionPicker&>(Picker), Parent);
 }

@@ -9,7 +9,7 @@
 
 namespace
 {
-TUniquePtr<FNativeWidget> MakeNothing(SWidget&, QWidget*)
+FNativeWidget* MakeNothing(SWidget&, QWidget*)
 {
 	return nullptr;
 }
@@ -17,7 +17,7 @@ TUniquePtr<FNativeWidget> MakeNothing(SWidget&, QWidget*)
 struct FKind
 {
 	bool (*Is)(SWidget& Widget);
-	TUniquePtr<FNativeWidget> (*Make)(SWidget& Widget, QWidget* Parent);
+	FNativeWidget* (*Make)(SWidget& Widget, QWidget* Parent);
 };
 
 const FKind Kinds[] = {
@@ -67,17 +67,15 @@ FKey ToKey(const QKeyEvent& Event)
 }
 }
 
-FNativeWidget::~FNativeWidget()
+void FNativeWidget::Drop()
 {
-	if (QtWidget)
-	{
-		// It may be in the middle of an event of its own.
-		QtWidget->hide();
-		QtWidget->deleteLater();
-	}
+	SlateWidget.Reset();
+	GetQt().hide();
+	// It may be in the middle of an event of its own.
+	GetQt().deleteLater();
 }
 
-TUniquePtr<FNativeWidget> MakeNativeWidget(SWidget& Widget, QWidget* Parent)
+FNativeWidget* MakeNativeWidget(SWidget& Widget, QWidget* Parent)
 {
 	return FindForClass(std::begin(Kinds), std::end(Kinds), Widget).Make(Widget, Parent);
 }

@@ -7,19 +7,21 @@
 
 class FViewContents;
 
-/** The Qt side of one widget that can be seen. The Slate widget is alive while Follow runs; for events it is asked for anew. */
+/**
+ * The Qt side of one widget that can be seen: the second base of a class of Qt widgets, which Qt deletes. That may be some events after it
+ * has been dropped, and after the Slate widget is gone.
+ */
 class FNativeWidget
 {
 public:
-	/** @param InQt is this one's from now on */
-	FNativeWidget(SWidget& InSlate, QWidget* InQt)
+	explicit FNativeWidget(SWidget& InSlate)
 		: SlateWidget(InSlate.AsShared())
-		, QtWidget(InQt)
 	{
 	}
-	virtual ~FNativeWidget();
+	virtual ~FNativeWidget() = default;
 	UE_NONCOPYABLE(FNativeWidget)
 
+	virtual QWidget& GetQt() = 0;
 	/** Makes the Qt widget what the Slate widget is now. Its place and whether it is enabled are set already. */
 	virtual void Follow(FViewContents& Contents) = 0;
 	/** The widget, or something below this child of it, has changed in a way that may change sizes. */
@@ -27,9 +29,10 @@ public:
 	/** Whether it has something that the user would miss when it scrolls out of view. */
 	virtual bool IsWorthKeeping() const { return false; }
 
-	/** Null once Qt has deleted it. */
-	QWidget* GetQt() const { return QtWidget; }
+	/** Null once it is gone, or this was dropped: then nothing is to be done any more. */
 	TSharedPtr<SWidget> GetSlate() const { return SlateWidget.Pin(); }
+	/** Nobody shows it any more. */
+	void Drop();
 
 	/** In which pass it was seen last. */
 	int64 LastPass = 0;
@@ -37,18 +40,17 @@ public:
 
 private:
 	TWeakPtr<SWidget> SlateWidget;
-	QPointer<QWidget> QtWidget;
 };
 
-/** Makes the native widget for the Slate widget's class; null for one that needs none. */
-TUniquePtr<FNativeWidget> MakeNativeWidget(SWidget& Widget, QWidget* Parent);
+/** Makes the native widget for the Slate widget's class, on its parent; null for one that needs none. */
+FNativeWidget* MakeNativeWidget(SWidget& Widget, QWidget* Parent);
 
 // What each kind is made by.
-TUniquePtr<FNativeWidget> MakeNativeLabel(SWidget& TextBlock, QWidget* Parent);
-TUniquePtr<FNativeWidget> MakeNativeEditor(SWidget& EditableText, QWidget* Parent);
-TUniquePtr<FNativeWidget> MakeNativeButton(SWidget& Button, QWidget* Parent);
-TUniquePtr<FNativeWidget> MakeNativePicker(SWidget& Picker, QWidget* Parent);
-TUniquePtr<FNativeWidget> MakeNativeScroller(SWidget& ScrollBox, QWidget* Parent);
+FNativeWidget* MakeNativeLabel(SWidget& TextBlock, QWidget* Parent);
+FNativeWidget* MakeNativeEditor(SWidget& EditableText, QWidget* Parent);
+FNativeWidget* MakeNativeButton(SWidget& Button, QWidget* Parent);
+FNativeWidget* MakeNativePicker(SWidget& Picker, QWidget* Parent);
+FNativeWidget* MakeNativeScroller(SWidget& ScrollBox, QWidget* Parent);
 
 /** The event as Slate's widgets know it. */
 FKeyEvent ToKeyEvent(const QKeyEvent& Event);

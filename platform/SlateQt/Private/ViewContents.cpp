@@ -32,7 +32,13 @@ FViewContents::~FViewContents()
 	SWidget::OnInvalidated().Remove(InvalidatedHandle);
 	// The focus moves on while they go, and whoever gets it may ask for the input.
 	FocusOrder.clear();
-	Natives.clear();
+	for (const auto& [Widget, Shown] : Natives)
+	{
+		if (Shown.QtWidget)
+		{
+			Shown.Native->Drop();
+		}
+	}
 }
 
 void FViewContents::OnInvalidated(SWidget& Widget, EInvalidateWidgetReason Reason)
@@ -102,28 +108,33 @@ void FViewContents::PlaceChildren(SWidget& Parent, const QRectF& Area, FCanvas& 
 FNativeWidget* FViewContents::FindNative(const SWidget& Widget) const
 {
 	const auto Found = Natives.find(&Widget);
-	return Found != Natives.end() && Found->second->GetSlate().Get() == &Widget ? Found->second.Get() : nullptr;
+	const bool bThere = Found != Natives.end() && Found->second.QtWidget && Found->second.Native->GetSlate().Get() == &Widget;
+	return bThere ? Found->second.Native : nullptr;
 }
 
 FNativeWidget* FViewContents::FindOrMakeNative(SWidget& Widget, FCanvas& Canvas)
 {
 	FNativeWidget* const Known = FindNative(Widget);
-	if (Known && Known->GetQt() && Known->GetQt()->parentWidget() == &Canvas)
+	if (Known && Known->GetQt().parentWidget() == &Canvas)
 	{
 		return Known;
 	}
-	TUniquePtr<FNativeWidget> Made = MakeNativeWidget(Widget, &Canvas);
-	FNativeWidget* const Native = Made.Get();
-	if (Native)
+	FNativeWidget* const Made = MakeNativeWidget(Widget, &Canvas);
+	if (Made)
 	{
-		Natives[&Widget] = MoveTemp(Made);
+		FShownNative& Shown = Natives[&Widget];
+		if (Shown.QtWidget)
+		{
+			Shown.Native->Drop();
+		}
+		Shown = { Made, &Made->GetQt() };
 	}
-	return Native;
+	return Made;
 }
 
 void FViewContents::Show(FNativeWidget& Native, const QRectF& Area)
 {
-	QWidget& Qt = *Native.GetQt();
+	QWidget& Qt = Native.GetQt();
 	Native.LastPass = Pass;
 	if (const QRect Pixels = ToPixels(Area); Qt.geometry() != Pixels)
 	{
@@ -159,26 +170,30 @@ void FViewContents::Show(FNativeWidget& Native, const QRectF& Area)
 
 void FViewContents::DropUnseen()
 {
-	std::erase_if(Natives,
-		[this](const auto& Entry)
+	for (auto Each = Natives.begin(); Each != Natives.end();)
+	{
+		const FShownNative Shown = Each->second;
+		if (Shown.QtWidget && Shown.Native->LastPass == Pass)
 		{
-		FNativeWidget& Native = *Entry.second;
-		QWidget* const Qt = Native.GetQt();
-		if (Native.LastPass == Pass)
-		{
-			return false;
+			++Each;
+			continue;
 		}
-		if (Qt && Qt->hasFocus())
+		if (Shown.QtWidget && Shown.QtWidget->hasFocus())
 		{
-			TakeFocus(Native);
+			TakeFocus(*Shown.Native);
 		}
-		const bool bKeep = Qt && Native.GetSlate().IsValid() && Native.IsWorthKeeping();
-		if (bKeep)
+		if (Shown.QtWidget && Shown.Native->GetSlate().IsValid() && Shown.Native->IsWorthKeeping())
 		{
-			Qt->hide();
+			Shown.QtWidget->hide();
+			++Each;
+			continue;
 		}
-		return !bKeep;
-	});
+		if (Shown.QtWidget)
+		{
+			Shown.Native->Drop();
+		}
+		Each = Natives.erase(Each);
+	}
 }
 
 void FViewContents::OrderFocus()
@@ -213,8 +228,8 @@ void FViewContents::ReturnFocus()
 		return;
 	}
 	const TSharedPtr<SWidget> Lost = LostFocus.Pin();
-	const FNativeWidget* const Native = Lost.IsValid() ? FindNative(*Lost) : nullptr;
-	QWidget* const Before = Native && Native->LastPass == Pass && Native->bEnabled ? Native->GetQt() : nullptr;
+	FNativeWidget* const Native = Lost.IsValid() ? FindNative(*Lost) : nullptr;
+	QWidget* const Before = Native && Native->LastPass == Pass && Native->bEnabled ? &Native->GetQt() : nullptr;
 	// Whoever clicked a button goes on by typing; a space that was meant for the input would click it again.
 	QWidget* const Input = IsInput(Before) ? Before : FindInput();
 	if (QWidget* const To = Input ? Input : Before)

@@ -48,7 +48,13 @@ private:
 	TSharedRef<SWidget> Root;
 	FCanvas& RootCanvas;
 	FWidgetLayout Layout;
-	std::unordered_map<const SWidget*, TUniquePtr<FNativeWidget>> Natives;
+	/** Deleted by Qt: it is there as long as its Qt widget is. */
+	struct FShownNative
+	{
+		FNativeWidget* Native;
+		QPointer<QWidget> QtWidget;
+	};
+	std::unordered_map<const SWidget*, FShownNative> Natives;
 	int64 Pass = 0;
 	bool bEnabled = true;
 	std::vector<QPointer<QWidget>> FocusOrder;
