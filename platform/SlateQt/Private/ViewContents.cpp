@@ -2,7 +2,6 @@
 
 #include "SlateLook.h"
 #include "Widgets/Layout/SBorder.h"
-#include "Widgets/Text/SMultiLineEditableText.h"
 
 namespace
 {
@@ -172,28 +171,25 @@ void FViewContents::DropUnseen()
 {
 	for (auto Each = Natives.begin(); Each != Natives.end();)
 	{
-		const FShownNative Shown = Each->second;
-		if (Shown.QtWidget && Shown.Native->LastPass == Pass)
-		{
-			++Each;
-			continue;
-		}
-		if (Shown.QtWidget && Shown.QtWidget->hasFocus())
-		{
-			TakeFocus(*Shown.Native);
-		}
-		if (Shown.QtWidget && Shown.Native->GetSlate().IsValid() && Shown.Native->IsWorthKeeping())
-		{
-			Shown.QtWidget->hide();
-			++Each;
-			continue;
-		}
-		if (Shown.QtWidget)
-		{
-			Shown.Native->Drop();
-		}
-		Each = Natives.erase(Each);
+		const FShownNative& Shown = Each->second;
+		const bool bStays = Shown.QtWidget && (Shown.Native->LastPass == Pass || HideUnseen(*Shown.Native));
+		Each = bStays ? std::next(Each) : Natives.erase(Each);
 	}
+}
+
+bool FViewContents::HideUnseen(FNativeWidget& Native)
+{
+	if (Native.GetQt().hasFocus())
+	{
+		TakeFocus(Native);
+	}
+	if (Native.GetSlate().IsValid() && Native.IsWorthKeeping())
+	{
+		Native.GetQt().hide();
+		return true;
+	}
+	Native.Drop();
+	return false;
 }
 
 void FViewContents::OrderFocus()

@@ -43,6 +43,8 @@ private:
 	/** Gives it to the input, or else back, as soon as one of them can be used. */
 	void ReturnFocus();
 	void DropUnseen();
+	/** @return whether it is kept, hidden, for when it shows again; else it was dropped */
+	bool HideUnseen(FNativeWidget& Native);
 	void OrderFocus();
 
 	TSharedRef<SWidget> Root;
